@@ -1,0 +1,7 @@
+#include "shell/frame_counter.h"
+
+namespace vandrel {
+
+FrameCounter frameCounter;
+
+}  // namespace vandrel
