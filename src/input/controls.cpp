@@ -2,8 +2,12 @@
 
 namespace vandrel {
 
-std::string InertControls::description() const { return {}; }
+std::string InertControls::description() const {
+    return {};
+}
 
-std::string InertControls::buttonText(ControlInput /*input*/) const { return {}; }
+std::string InertControls::buttonText(ControlInput /*input*/) const {
+    return {};
+}
 
 }  // namespace vandrel

@@ -1,5 +1,5 @@
-// One input device as players and menus see it: nine logical inputs that are polled, never driven by events. Here are the
-// interface and the two devices that need no platform; keyboards and joysticks have files of their own.
+// One input device as players and menus see it: nine logical inputs that are polled, never driven by events. Here are
+// the interface and the two devices that need no platform; keyboards and joysticks have files of their own.
 #pragma once
 
 #include <array>
@@ -23,8 +23,8 @@ enum class ControlInput : int {
 inline constexpr std::array<const char*, 9> controlInputNames{"Up",      "Down",  "Left",       "Right",       "Fire",
                                                               "Button2", "Pause", "ChangeSkin", "ChangeColour"};
 
-// A device is always held by a shared pointer: a player keeps a device that has gone until the match ends, and the device
-// then answers false.
+// A device is always held by a shared pointer: a player keeps a device that has gone until the match ends, and the
+// device then answers false.
 class Controls {
   public:
     Controls() = default;

@@ -1,5 +1,5 @@
-// The settings that make the game easier to see. The accessibility menu edits them, the painting of the arena and of the
-// players reads them; the configuration keeps them.
+// The settings that make the game easier to see. The accessibility menu edits them, the painting of the arena and of
+// the players reads them; the configuration keeps them.
 #pragma once
 
 #include "base/colour.h"

@@ -1,12 +1,13 @@
-// The number of updates that the current round has run. The match driver writes it, the rules read it, and every log line
-// begins with it, which is why other threads may read it too.
+// The number of updates that the current round has run. The match driver writes it, the rules read it, and every log
+// line begins with it, which is why other threads may read it too.
 #pragma once
 
 #include <atomic>
 
 namespace vandrel {
 
-// An int with one writer, the main thread, and any number of readers. Reading and counting cost no more than for a plain int.
+// An int with one writer, the main thread, and any number of readers. Reading and counting cost no more than for a
+// plain int.
 class FrameCounter {
   public:
     operator int() const { return count.load(std::memory_order_relaxed); }

@@ -49,11 +49,17 @@ void logPrintf(const char* format, ...) {
     }
 }
 
-void logText(const std::string& text) { logPrintf("%s", text.c_str()); }
+void logText(const std::string& text) {
+    logPrintf("%s", text.c_str());
+}
 
-void logStream(const std::ostringstream& stream) { logText(stream.str()); }
+void logStream(const std::ostringstream& stream) {
+    logText(stream.str());
+}
 
-void logTrace(const char* text) { logPrintf("%s", text); }
+void logTrace(const char* text) {
+    logPrintf("%s", text);
+}
 
 void logAndFlush(const std::string& text) {
     logText(text);
@@ -85,6 +91,8 @@ DebugOutput setDebugOutput(DebugOutput output) {
     return std::exchange(debugOutput, output);
 }
 
-void debugOutputToStandardError(const char* line, std::size_t length) { std::fwrite(line, 1, length, stderr); }
+void debugOutputToStandardError(const char* line, std::size_t length) {
+    std::fwrite(line, 1, length, stderr);
+}
 
 }  // namespace vandrel

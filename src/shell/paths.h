@@ -5,8 +5,8 @@
 
 namespace vandrel {
 
-// The folder of the log, the configuration and the replays, without a slash at its end: "vandrel" in the user's folder for
-// local application data. Created, with all that is missing above it, for the user alone. Throws
+// The folder of the log, the configuration and the replays, without a slash at its end: "vandrel" in the user's folder
+// for local application data. Created, with all that is missing above it, for the user alone. Throws
 // std::filesystem::filesystem_error with the operation "create_directory".
 std::string appDataDir();
 
