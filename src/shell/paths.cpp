@@ -68,8 +68,12 @@ void createDirectories(const fs::path& path) {
 
 }  // namespace
 
+std::string appDataPath() {
+    return localApplicationDataDir() + "/vandrel";
+}
+
 std::string appDataDir() {
-    std::string dir = localApplicationDataDir() + "/vandrel";
+    std::string dir = appDataPath();
     createDirectories(dir);
     return dir;
 }

@@ -10,6 +10,9 @@ namespace vandrel {
 // std::filesystem::filesystem_error with the operation "create_directory".
 std::string appDataDir();
 
+// The same path as text only: nothing is created, so nothing throws. For messages that lead a user to a file there.
+std::string appDataPath();
+
 // appDataDir() + "/replays", created in the same way; throws the same.
 std::string replaysDir();
 
