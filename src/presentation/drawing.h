@@ -4,6 +4,8 @@
 
 #include <allegro5/allegro.h>
 
+#include <vector>
+
 #include "presentation/bitmap_ids.h"
 #include "presentation/bitmap_wrapper.h"
 
@@ -20,13 +22,17 @@ void setTarget(const BitmapWrapper& target);
 void forgetTarget();
 
 // While one of these lives, bitmaps of the same atlas page are sent to the platform together. What is drawn, and in
-// which order, does not change; only platform calls of one's own must not come in between. May be nested.
+// which order, does not change; platform calls of one's own in between need a `BatchPause`. May be nested, on one
+// target or on several.
 class DrawingBatch {
   public:
-    DrawingBatch();
+    explicit DrawingBatch(const BitmapWrapper& target);
     DrawingBatch(const DrawingBatch&) = delete;
     DrawingBatch& operator=(const DrawingBatch&) = delete;
     ~DrawingBatch();
+
+  private:
+    bool wasHeld_;
 };
 
 // Sends what a batch has collected so far, for the length of this object: around a change of the platform's drawing
@@ -69,6 +75,12 @@ void drawScaled(const BitmapWrapper& target, ALLEGRO_BITMAP* bitmap, int sourceX
 void drawScaledId(const BitmapWrapper& target, BitmapIds id, int sourceX, int sourceY, int sourceWidth,
                   int sourceHeight, int x, int y, int width, int height);
 
+struct ColouredPixel {
+    int x = 0;
+    int y = 0;
+    ALLEGRO_COLOR colour{};
+};
+
 // Primitives. Rectangles span from (x1, y1) to (x2, y2); angles of an arc are in radians, clockwise from the right.
 void drawArc(const BitmapWrapper& target, int x, int y, int radius, float startAngle, float angle, ALLEGRO_COLOR colour,
              float thickness);
@@ -78,6 +90,8 @@ void drawLine(const BitmapWrapper& target, int x1, int y1, int x2, int y2, ALLEG
 void drawRectangle(const BitmapWrapper& target, int x1, int y1, int x2, int y2, ALLEGRO_COLOR colour, float thickness);
 void drawFilledRectangle(const BitmapWrapper& target, int x1, int y1, int x2, int y2, ALLEGRO_COLOR colour);
 void putPixel(const BitmapWrapper& target, int x, int y, ALLEGRO_COLOR colour);
+// Many single pixels at once.
+void putPixels(const BitmapWrapper& target, const std::vector<ColouredPixel>& pixels);
 ALLEGRO_COLOR getPixel(const BitmapWrapper& source, int x, int y);
 
 // The byte value of one channel.

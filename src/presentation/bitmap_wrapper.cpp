@@ -1,0 +1,50 @@
+#include "presentation/bitmap_wrapper.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "presentation/atlas.h"
+
+namespace vandrel {
+
+namespace {
+
+ALLEGRO_BITMAP* createBitmap(int width, int height, bool preserve) {
+    ALLEGRO_STATE before;
+    al_store_state(&before, ALLEGRO_STATE_NEW_BITMAP_PARAMETERS);
+    al_set_new_bitmap_format(ALLEGRO_PIXEL_FORMAT_ANY_WITH_ALPHA);
+    al_set_new_bitmap_flags(ALLEGRO_CONVERT_BITMAP | (preserve ? 0 : ALLEGRO_NO_PRESERVE_TEXTURE));
+    ALLEGRO_BITMAP* bitmap = al_create_bitmap(width, height);
+    if (bitmap == nullptr && (width < 1 || height < 1)) {
+        // The first game bitmap is made before the game's size is known; not every driver makes an empty one.
+        bitmap = al_create_bitmap(std::max(width, 1), std::max(height, 1));
+    }
+    al_restore_state(&before);
+    if (bitmap == nullptr) {
+        throw std::runtime_error("Could not create bitmap");
+    }
+    return bitmap;
+}
+
+}  // namespace
+
+BitmapWrapper::BitmapWrapper(int width, int height, bool preserve)
+    : bitmap(createBitmap(width, height, preserve)), owned(true) {}
+
+BitmapWrapper::BitmapWrapper(ALLEGRO_BITMAP* existing, bool ownsIt) : bitmap(existing), owned(ownsIt) {}
+
+BitmapWrapper::~BitmapWrapper() {
+    if (owned) {
+        destroyBitmap(bitmap);
+    }
+}
+
+int BitmapWrapper::width() const {
+    return al_get_bitmap_width(bitmap);
+}
+
+int BitmapWrapper::height() const {
+    return al_get_bitmap_height(bitmap);
+}
+
+}  // namespace vandrel
