@@ -33,8 +33,12 @@ constexpr Square squareUnder(Pixel position) {
     return {(position.x + halfSquare) / squareSize, (position.y + halfSquare) / squareSize};
 }
 // The square of an exact pixel, truncated toward zero.
-constexpr Square squareAtPixel(Pixel pixel) { return {pixel.x / squareSize, pixel.y / squareSize}; }
-constexpr Pixel squareToPixel(Square square) { return {square.x * squareSize, square.y * squareSize}; }
+constexpr Square squareAtPixel(Pixel pixel) {
+    return {pixel.x / squareSize, pixel.y / squareSize};
+}
+constexpr Pixel squareToPixel(Square square) {
+    return {square.x * squareSize, square.y * squareSize};
+}
 
 // The foremost pixel of a sprite at `position` that looks to `facing`.
 constexpr Pixel leadingPixel(Pixel position, Facing facing) {
@@ -51,28 +55,36 @@ constexpr Pixel leadingPixel(Pixel position, Facing facing) {
     return {position.x + 16, position.y + 31};
 }
 
-inline int arenaWidthPixels() { return grid_squares_x * squareSize; }
-inline int arenaHeightPixels() { return grid_squares_y * squareSize; }
+inline int arenaWidthPixels() {
+    return grid_squares_x * squareSize;
+}
+inline int arenaHeightPixels() {
+    return grid_squares_y * squareSize;
+}
 inline bool isInsideGrid(Square square) {
     return square.x >= 0 && square.x < grid_squares_x && square.y >= 0 && square.y < grid_squares_y;
 }
 inline bool isInnerSquare(Square square) {
     return square.x > 0 && square.x < grid_squares_x - 1 && square.y > 0 && square.y < grid_squares_y - 1;
 }
-inline Square middleSquare() { return {grid_squares_x / 2, grid_squares_y / 2}; }
+inline Square middleSquare() {
+    return {grid_squares_x / 2, grid_squares_y / 2};
+}
 
-// Called by each set-up with the arena's size in pixels, so that whoever shows it can make a picture of that size. Null where
-// nobody looks.
+// Called by each set-up with the arena's size in pixels, so that whoever shows it can make a picture of that size. Null
+// where nobody looks.
 extern void (*onArenaResized)(int width, int height);
 
 // Empties the layers and gives them this size in squares.
 void resizeArena(Square size);
 
 // Whether a live bomb lies on the square.
-inline bool hasBomb(Square square) { return bombGrid.at(square).isLive(); }
+inline bool hasBomb(Square square) {
+    return bombGrid.at(square).isLive();
+}
 
-// Opens the plus shape of `radius` squares round the centre: its squares become empty and lose their powerups, edge walls
-// never, pillars only with `clearBlocks`.
+// Opens the plus shape of `radius` squares round the centre: its squares become empty and lose their powerups, edge
+// walls never, pillars only with `clearBlocks`.
 void clearAround(Square centre, int radius, bool clearBlocks);
 
 }  // namespace vandrel

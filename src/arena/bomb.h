@@ -1,5 +1,5 @@
-// What lies on one square of the arena. Every square has such a record; a bomb is there exactly while its owner is: when a player
-// leaves the match, the bombs of that player are gone with nothing else to be done.
+// What lies on one square of the arena. Every square has such a record; a bomb is there exactly while its owner is:
+// when a player leaves the match, the bombs of that player are gone with nothing else to be done.
 #pragma once
 
 #include <memory>

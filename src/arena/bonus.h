@@ -28,8 +28,8 @@ inline constexpr int QuestionFastIgnition = 20;
 inline constexpr int UltraBomb = 21;
 }  // namespace Bonus
 
-// The weighted draw of a powerup, from `gameRand`: from the auction's table or the level's, less what is disabled and, where
-// cash would be of no use, less cash. 0, and no draw, when nothing can be drawn.
+// The weighted draw of a powerup, from `gameRand`: from the auction's table or the level's, less what is disabled and,
+// where cash would be of no use, less cash. 0, and no draw, when nothing can be drawn.
 int chooseBonus(bool forAuction);
 
 }  // namespace vandrel

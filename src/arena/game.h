@@ -1,6 +1,7 @@
-// Everything that lasts one round beside the arena's layers: the closing walls, the hill, flags, flames, toasts, the auction, the
-// countdowns and the round's two random sources. Its passes, in the order of `update`, are the rules of a round; they stand in the
-// files of this folder, a thought each. The match driver builds one for each round and the join screen one for its lobby.
+// Everything that lasts one round beside the arena's layers: the closing walls, the hill, flags, flames, toasts, the
+// auction, the countdowns and the round's two random sources. Its passes, in the order of `update`, are the rules of a
+// round; they stand in the files of this folder, a thought each. The match driver builds one for each round and the
+// join screen one for its lobby.
 #pragma once
 
 #include <list>
@@ -73,8 +74,8 @@ using Winners = std::variant<PlayerWinners, TeamWinners>;
 
 class Game {
   public:
-    // Copies `replayData`, draws how the closing walls arrive, becomes the current game, and logs the auctions' interval. The
-    // layers are left alone.
+    // Copies `replayData`, draws how the closing walls arrive, becomes the current game, and logs the auctions'
+    // interval. The layers are left alone.
     explicit Game(const PackagedReplayData& replayData);
     ~Game();
     Game(const Game&) = delete;
@@ -83,8 +84,8 @@ class Game {
     // The game that runs now; null between rounds.
     static Game* current();
 
-    // One step of the round. `roundOver` is written by every call that reaches its last pass, `replayEnded` only ever goes to
-    // true. `music` gets the fade at the end of the round; it may be null.
+    // One step of the round. `roundOver` is written by every call that reaches its last pass, `replayEnded` only ever
+    // goes to true. `music` gets the fade at the end of the round; it may be null.
     void update(bool& roundOver, bool& replayEnded, const std::shared_ptr<Music>& music);
 
     // The passes of `update`. The lobby calls some of them alone.
@@ -102,8 +103,8 @@ class Game {
     void updateToasts();
 
     // Queries.
-    // Whether any of the tests in `mask` hits; the head of `ignoredPlayer` does not count, bodies of all do. `foundPlayer`
-    // receives the snake whose head was found.
+    // Whether any of the tests in `mask` hits; the head of `ignoredPlayer` does not count, bodies of all do.
+    // `foundPlayer` receives the snake whose head was found.
     bool isSquareBlocked(Square square, int mask, const Player* ignoredPlayer = nullptr,
                          std::shared_ptr<Player>* foundPlayer = nullptr) const;
     bool hasExplosion(Square square) const;
@@ -147,9 +148,9 @@ class Game {
         const char* what() const noexcept override;
     };
 
-    // The best of `samples` squares drawn from `spawnRng` in the inclusive rectangle `min` to `max`, by `score`; the first of
-    // equals. Pillars and edge walls are drawn again. Empty when `samples` is below 1, or when a thousand pairs were no use:
-    // what was drawn stays drawn, since playback draws the same.
+    // The best of `samples` squares drawn from `spawnRng` in the inclusive rectangle `min` to `max`, by `score`; the
+    // first of equals. Pillars and edge walls are drawn again. Empty when `samples` is below 1, or when a thousand
+    // pairs were no use: what was drawn stays drawn, since playback draws the same.
     std::optional<Square> sampleBestSquare(Square min, Square max, const SquareScore& score, int samples);
 
     // State. Counts of frames are updates.
@@ -180,12 +181,28 @@ class Game {
     std::unique_ptr<Auction> auction;
     int auctionCountdown = 0;
     int scoreToastFrames = 90;
+    bool endMarkSeen = false;  // playback has met the end of its records; what is left of the update reads none
 
     // What only drawing needs, made when first drawn: the hill's tiles, the flags' frames, the wall strips.
     std::shared_ptr<ArenaPictures> pictures;
 
   private:
+    // The last pass; true when the round is over.
+    bool updateRoundEnd(const std::shared_ptr<Music>& music);
     void markFlames();
+    bool isBurning(Square square) const { return flameStamps_.at(square) == flameStamp_; }
+    void checkHitsOf(const std::shared_ptr<Player>& player, std::vector<std::shared_ptr<Player>>& collided);
+    void checkFlames(Player& player);
+    bool isBodyInWall(const Player& player) const;
+    void openAuction();
+    void closeAuction();
+    void updatePendingWalls();
+    bool standWall(const PendingWall& wall);
+    bool wantsMoreWalls();
+    std::optional<Square> chooseWallSquare();
+    void layShrinkWalls();
+    void layShrinkWall(ShrinkCursor& cursor);
+    void startShrinking();
 
     Layer<int> flameStamps_;  // the hit check that last found a flame on the square
     int flameStamp_ = 0;
@@ -194,7 +211,8 @@ class Game {
 // Where a closing wall goes on from here, and whether it turned.
 std::pair<ShrinkCursor, bool> nextShrinkStep(const ShrinkCursor& cursor);
 
-// Whether a breakable wall may come back on the square: nothing blocks it, nobody human stands there, no powerup lies there.
+// Whether a breakable wall may come back on the square: nothing blocks it, nobody human stands there, no powerup lies
+// there.
 bool canRespawnWallAt(const Game& game, Square square);
 
 }  // namespace vandrel

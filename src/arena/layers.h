@@ -1,5 +1,5 @@
-// The per-square layers of the arena, and the set of squares on which something counts down. All are range-checked: a bad index
-// throws std::out_of_range "invalid vector subscript", which is fatal.
+// The per-square layers of the arena, and the set of squares on which something counts down. All are range-checked: a
+// bad index throws std::out_of_range "invalid vector subscript", which is fatal.
 #pragma once
 
 #include <cstddef>
@@ -43,8 +43,9 @@ class Layer {
     std::vector<T> values_;
 };
 
-// The squares on which the bomb pass has anything to do: those with a bomb record in use and those that crumble. The pass visits
-// them in the order of a scan over all squares, x outer, y inner, and spares the rest: on the largest arena eight thousand.
+// The squares on which the bomb pass has anything to do: those with a bomb record in use and those that crumble. The
+// pass visits them in the order of a scan over all squares, x outer, y inner, and spares the rest: on the largest arena
+// eight thousand.
 class ActiveSquares {
   public:
     void resize(int width, int height);
@@ -57,8 +58,8 @@ class ActiveSquares {
         words_[bit / 64] &= ~(std::uint64_t{1} << (bit % 64));
     }
 
-    // Calls `visit(x, y)` for each marked square in order. A square marked meanwhile is visited too if it lies behind the
-    // present one, as a scan would find it.
+    // Calls `visit(x, y)` for each marked square in order. A square marked meanwhile is visited too if it lies behind
+    // the present one, as a scan would find it.
     template <class Visit>
     void forEach(Visit&& visit) const {
         for (std::size_t word = 0; word < words_.size(); ++word) {

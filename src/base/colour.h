@@ -25,7 +25,8 @@ RGB toRGB(const ALLEGRO_COLOR& colour);
 bool sameColour(const ALLEGRO_COLOR& a, const ALLEGRO_COLOR& b);
 
 // The red-mean weighted distance of two colours: 0 for equal ones, about 765 from black to white.
-// Formula: a low-cost approximation of perceived difference, with the mean of the reds as the weight, in 32-bit integers.
+// Formula: a low-cost approximation of perceived difference, with the mean of the reds as the weight, in 32-bit
+// integers.
 float colourDistance(RGB a, RGB b);
 
 }  // namespace vandrel

@@ -13,7 +13,9 @@ enum class Facing : int { Right = 0, Up = 1, Left = 2, Down = 3 };
 // heading of a new snake depend on it, so replays do.
 inline constexpr std::array<Facing, 4> facingOrder{Facing::Down, Facing::Up, Facing::Left, Facing::Right};
 
-constexpr Facing opposite(Facing facing) { return static_cast<Facing>((static_cast<int>(facing) + 2) % 4); }
+constexpr Facing opposite(Facing facing) {
+    return static_cast<Facing>((static_cast<int>(facing) + 2) % 4);
+}
 
 // The unit step of a heading; y grows downward.
 constexpr Square directionOf(Facing facing) {

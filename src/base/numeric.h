@@ -17,6 +17,8 @@ constexpr float mapRange(float value, float inMin, float inMax, float outMin, fl
     return std::clamp(mapped, std::min(outMin, outMax), std::max(outMin, outMax));
 }
 
-constexpr int signOf(int value) { return (value > 0) - (value < 0); }
+constexpr int signOf(int value) {
+    return (value > 0) - (value < 0);
+}
 
 }  // namespace vandrel

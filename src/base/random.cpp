@@ -19,7 +19,9 @@ int gameRand() {
     return static_cast<int>((gameRandState >> 16U) & 0x7FFFU);
 }
 
-void seedGameRand(std::uint32_t seed) { gameRandState = seed; }
+void seedGameRand(std::uint32_t seed) {
+    gameRandState = seed;
+}
 
 int uniformInt(std::mt19937& generator, int low, int high) {
     constexpr std::uint32_t largest = 0xFFFFFFFFU;

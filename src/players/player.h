@@ -1,6 +1,6 @@
-// One combatant of a match: a human behind a device, or a snake of the computer. A plain class: what varies is a flag and the
-// device. `Game` updates each player once a frame and players ask `Game` what stands where. The rules stand in the files of this
-// folder, a thought each: lifecycle, update, walking, pushing, fire control, powerups, snake form.
+// One combatant of a match: a human behind a device, or a snake of the computer. A plain class: what varies is a flag
+// and the device. `Game` updates each player once a frame and players ask `Game` what stands where. The rules stand in
+// the files of this folder, a thought each: lifecycle, update, walking, pushing, fire control, powerups, snake form.
 #pragma once
 
 #include <deque>
@@ -57,8 +57,8 @@ struct FrameInput {
     bool colourPressed = false;
 };
 
-// How far a flag may be to be taken or captured and a team-mate to rescue, in pixels, and how long a rescue takes, in frames. The
-// match driver sets them; a replay's header brings the first.
+// How far a flag may be to be taken or captured and a team-mate to rescue, in pixels, and how long a rescue takes, in
+// frames. The match driver sets them; a replay's header brings the first.
 struct Reaches {
     float flag = 13.0f;
     float rescue = 32.0f;
@@ -106,10 +106,12 @@ class Player : public std::enable_shared_from_this<Player> {
     int snakeLengthNow() const { return snakeLength; }
     // The number of body parts it should have; 0 ends snake form.
     void setSnakeLength(int length);
-    // Players now in snake form, living or not. While there is none the queries for heads and bodies have nothing to look at.
+    // Players now in snake form, living or not. While there is none the queries for heads and bodies have nothing to
+    // look at.
     static int snakesInPlay();
 
-    // The value of `shieldTimer` that stands still until a hit, a flag or the closing walls start it, and the one it then has.
+    // The value of `shieldTimer` that stands still until a hit, a flag or the closing walls start it, and the one it
+    // then has.
     static int lastingShield();
     static int runningShield();
 
@@ -130,12 +132,12 @@ class Player : public std::enable_shared_from_this<Player> {
     int framesSinceRocket = 0;
     int flameCounter = 0;  // 10 to 1, paces the flamethrower's sound
     BombType bombType = BombType::Normal;
-    bool ultraBomb = false;          // flames run diagonally too
-    bool remoteActive = false;       // a Remote Control or Detonator bomb waits
-    bool fireHandled = false;        // this press was acted on
+    bool ultraBomb = false;           // flames run diagonally too
+    bool remoteActive = false;        // a Remote Control or Detonator bomb waits
+    bool fireHandled = false;         // this press was acted on
     bool fireBlockedByGhost = false;  // the press that ended ghost form must be released first
-    bool fireLocked = false;         // ignored until released; set at round start
-    bool button2Prev = false;        // last frame's state, for edges
+    bool fireLocked = false;          // ignored until released; set at round start
+    bool button2Prev = false;         // last frame's state, for edges
     bool skinPrev = false;
     bool colourPrev = false;
     int remoteBombX = 0;  // square of the steered bomb
@@ -159,7 +161,7 @@ class Player : public std::enable_shared_from_this<Player> {
     int cash = 0;
     int wins = 0;  // rounds won in this match
     int kills = 0;
-    int pingTimer = 0;  // radius of the locator ring, pixels
+    int pingTimer = 0;                          // radius of the locator ring, pixels
     std::deque<Vector2Base<int>> snakeHistory;  // every pixel the head was at, oldest first, no two equal neighbours
     std::deque<SnakePart> snakeParts;           // nearest the head first
     int crawlTimer = 0;                         // frames until crawling ends by itself; 0 waits for rescue
@@ -189,7 +191,7 @@ class Player : public std::enable_shared_from_this<Player> {
     void updateParticles();
     void spinWhileStopped();
     void actAlive(const PackagedReplayData& replayData, FrameInput& input, bool inJoinScreen, bool& needRecord);
-    void updateCrawling(const PackagedReplayData& replayData);
+    void updateCrawling();
     void updateButton2(const FrameInput& input);
     void updateDead(const PackagedReplayData& replayData);
     void respawn(const PackagedReplayData& replayData);
@@ -199,7 +201,7 @@ class Player : public std::enable_shared_from_this<Player> {
     void move(int xDir, int yDir, bool& remoteSteered, const PackagedReplayData& replayData);
     void advanceWalk(int pixels);
     bool isFreeToWalk(Square square) const;
-    void assistCorner(int xDir, int yDir, int pixels, Square ahead);
+    void assistCorner(int xDir, int pixels, Square ahead);
     bool push(int xDir, int yDir, Square ahead, const PackagedReplayData& replayData);
     void crushUnderPushedWall(Square target, const PackagedReplayData& replayData);
     void steerBomb(int xDir, int yDir);
@@ -207,9 +209,8 @@ class Player : public std::enable_shared_from_this<Player> {
     // Flags.
     void updateFlagsTouched(const PackagedReplayData& replayData);
     void touchLooseFlag(Flag& flag, const PackagedReplayData& replayData);
-    bool canCapture(const Flag& flag, const PackagedReplayData& replayData) const;
+    bool canCapture(const PackagedReplayData& replayData) const;
     void capture(Flag& flag, const PackagedReplayData& replayData);
-    void proveCapture(const PackagedReplayData& replayData) const;
 
     // Fire.
     void updateFire(bool fire);
@@ -221,7 +222,8 @@ class Player : public std::enable_shared_from_this<Player> {
 
     // Powerups.
     void pickUp();
-    bool applyPowerup(int bonus, std::string& suffix);
+    void applyPowerup(int bonus, std::string& suffix);
+    void takeCash(std::string& suffix);
     void takeExtraBomb();
     void takeSpeed(std::string& suffix);
     void takeGhost();
@@ -236,7 +238,9 @@ class Player : public std::enable_shared_from_this<Player> {
     bool hasWayOut() const;
     void eatWall(Square square);
     void rebuildBody();
-    void moveOldSnake();
+    void turnSnake(int xDir, int yDir);
+    void moveOldSnake(int xDir, int yDir);
+    void rebuildOldBody();
     void aiSnakeControlChoice(int& xDir, int& yDir);
 
     int snakeLength = 0;

@@ -1,5 +1,5 @@
-// Background music as the rules and screens see it: at most one piece belongs to a screen or a match. `NoMusic` stands in
-// wherever none should sound.
+// Background music as the rules and screens see it: at most one piece belongs to a screen or a match. `NoMusic` stands
+// in wherever none should sound.
 #pragma once
 
 namespace vandrel {

@@ -8,7 +8,9 @@ SamplePlayer samplePlayer = nullptr;
 
 }  // namespace
 
-void setSamplePlayer(SamplePlayer player) { samplePlayer = player; }
+void setSamplePlayer(SamplePlayer player) {
+    samplePlayer = player;
+}
 
 void playSample(SampleIds id, int volume, int pan, int speed) {
     if (samplePlayer != nullptr) {

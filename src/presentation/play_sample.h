@@ -1,5 +1,5 @@
-// How the rules ask for a sound. Until a player is installed (`initSound` does so) a sample that is played is not heard, so the
-// simulation runs with no sound device.
+// How the rules ask for a sound. Until a player is installed (`initSound` does so) a sample that is played is not
+// heard, so the simulation runs with no sound device.
 #pragma once
 
 #include "presentation/sample_ids.h"

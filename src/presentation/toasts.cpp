@@ -33,6 +33,8 @@ DisplayScoreToast::DisplayScoreToast(int scored, Team* scoringTeam, Vector2Base<
       team(scoringTeam),
       points(scored) {}
 
-DisplayScoreToast::~DisplayScoreToast() { team->displayedScore += points; }
+DisplayScoreToast::~DisplayScoreToast() {
+    team->displayedScore += points;
+}
 
 }  // namespace vandrel

@@ -10,7 +10,8 @@ namespace vandrel {
 
 struct Team;
 
-// A toast that never ends by itself. `x`, `y`: pixels of the arena, top centre of the text. `vx`, `vy`: pixels an update.
+// A toast that never ends by itself. `x`, `y`: pixels of the arena, top centre of the text. `vx`, `vy`: pixels an
+// update.
 class Toast {
   public:
     Toast(std::string text, Vector2Base<float> position, Vector2Base<float> velocity, FontId font);
@@ -39,8 +40,8 @@ class TimedToast : public Toast {
     int frames;
 };
 
-// Points on their way to a team's base. They reach the number shown there when the toast goes, by whatever cause, so these
-// toasts are never dropped in bulk during a round.
+// Points on their way to a team's base. They reach the number shown there when the toast goes, by whatever cause, so
+// these toasts are never dropped in bulk during a round.
 class DisplayScoreToast final : public TimedToast {
   public:
     DisplayScoreToast(int points, Team* team, Vector2Base<float> position, Vector2Base<float> velocity, int frames,

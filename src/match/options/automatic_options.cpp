@@ -35,7 +35,9 @@ const std::map<int, int> timeBeforeFramesTable{{0, 1080}, {1, 2160}, {2, 5400}, 
 const std::map<int, int> preparationFramesTable{{1, 0}, {2, 200}, {3, 400}, {4, 600}, {5, 1000}};
 const std::map<int, int> spawnFramesTable{{1, 0}, {2, 199}, {3, 301}, {4, 401}, {5, 501}};
 
-bool fiveTimesInSix() { return gameRand() % 6 > 0; }
+bool fiveTimesInSix() {
+    return gameRand() % 6 > 0;
+}
 
 // One run of `automaticOptions`. The steps are called in the one order in which the draws must come.
 class Resolver {
@@ -300,6 +302,8 @@ void Resolver::resolveAuctions() {
 
 }  // namespace
 
-void automaticOptions() { Resolver().resolveAll(); }
+void automaticOptions() {
+    Resolver().resolveAll();
+}
 
 }  // namespace vandrel

@@ -1,6 +1,6 @@
-// The one record of what a match is played with. Its first half is what the players picked, where most fields can say "Auto";
-// the second half is what this round is played with. `automaticOptions` fills the second from the first before each round; the
-// rules read the second only, and a replay stores only that.
+// The one record of what a match is played with. Its first half is what the players picked, where most fields can say
+// "Auto"; the second half is what this round is played with. `automaticOptions` fills the second from the first before
+// each round; the rules read the second only, and a replay stores only that.
 #pragma once
 
 #include <array>
@@ -21,8 +21,8 @@ enum class GameMode : int {
 inline constexpr int gameModeCount = 7;
 inline constexpr int bonusCount = 22;
 
-// When walls come back: every `interval` frames, once fewer than `startBelow` stand and until `stopAt` do, while more than
-// `minFreeSquares` are free.
+// When walls come back: every `interval` frames, once fewer than `startBelow` stand and until `stopAt` do, while more
+// than `minFreeSquares` are free.
 struct RespawnWallOptions {
     bool enabled = false;
     int interval = 0;
@@ -127,9 +127,13 @@ bool isTeamMode(GameMode mode);
 
 // How long before a respawn its ring is shown, in frames before `frameMultiplier`.
 // It is computed wherever it is read, since it freezes the respawn timer and so belongs to the round's own rate.
-inline int respawnRingFrames() { return gameOptions.updaterate * 2; }
+inline int respawnRingFrames() {
+    return gameOptions.updaterate * 2;
+}
 
 // n frames at 60 updates a second, in frames of the current rate, for the values that keep that length at 120.
-inline int scaledFrames(int framesAt60) { return framesAt60 * gameOptions.frameMultiplier; }
+inline int scaledFrames(int framesAt60) {
+    return framesAt60 * gameOptions.frameMultiplier;
+}
 
 }  // namespace vandrel

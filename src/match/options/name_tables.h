@@ -1,5 +1,5 @@
-// The names of every enumeration of the game but pictures and sounds, in the order of their values. Menus, the log and the
-// replay list show them. A value outside a table is read through `checkedAt`.
+// The names of every enumeration of the game but pictures and sounds, in the order of their values. Menus, the log and
+// the replay list show them. A value outside a table is read through `checkedAt`.
 #pragma once
 
 #include <array>
@@ -53,11 +53,12 @@ inline constexpr std::array<std::string_view, 4> ShrinkStyleNames{"Auto", "Class
 inline constexpr std::array<std::string_view, 4> ShrinkStyleLogNames{"Auto", "Classic", "Mirrored2", "Four"};
 inline constexpr std::array<std::string_view, 5> TimeBeforeShrinkingNames{"Very Short", "Short", "Normal", "Long",
                                                                           "Auto"};
-inline constexpr std::array<std::string_view, 6> SnakeTimeNames{"Auto", "None", "Very Short", "Short", "Normal", "Long"};
+inline constexpr std::array<std::string_view, 6> SnakeTimeNames{"Auto",  "None",   "Very Short",
+                                                                "Short", "Normal", "Long"};
 inline constexpr std::array<std::string_view, 3> AutoOffOnNames{"Auto", "Off", "On"};
 inline constexpr std::array<std::string_view, 4> AuctionNames{"Off", "Frequent", "Medium", "Infrequent"};
-inline constexpr std::array<std::string_view, 22> DensityNames{"0",  "5",  "10", "15", "20", "25", "30",  "35",
-                                                               "40", "45", "50", "55", "60", "65", "70",  "75",
+inline constexpr std::array<std::string_view, 22> DensityNames{"0",  "5",  "10", "15", "20",  "25",  "30", "35",
+                                                               "40", "45", "50", "55", "60",  "65",  "70", "75",
                                                                "80", "85", "90", "95", "100", "Auto"};
 inline constexpr std::array<std::string_view, 11> AutoNumberNames{"Auto", "1", "2", "3", "4", "5",
                                                                   "6",    "7", "8", "9", "10"};

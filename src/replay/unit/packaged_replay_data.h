@@ -1,5 +1,5 @@
-// The handle on the streams of one round: what is read in playback, what is written while recording, and by which version's
-// rules the round is played. Built once a round and copied into `Game`.
+// The handle on the streams of one round: what is read in playback, what is written while recording, and by which
+// version's rules the round is played. Built once a round and copied into `Game`.
 #pragma once
 
 #include <iosfwd>
@@ -19,8 +19,8 @@ struct PackagedReplayData {
     std::ostream* outputVerify = nullptr;       // the verification text being written; null while none is open
     std::string filename;
 
-    // Whether the rules of before `gate` hold: a file of an older version is being played. A new game always plays by the
-    // newest rules.
+    // Whether the rules of before `gate` hold: a file of an older version is being played. A new game always plays by
+    // the newest rules.
     bool isOlderThan(int gate) const { return playback && version.has_value() && *version < gate; }
     // Whether records are written: playback never writes.
     bool writes() const { return recording && !playback; }

@@ -1,0 +1,123 @@
+// When a snake of the computer enters the arena, and where.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <ios>
+#include <istream>
+#include <limits>
+
+#include "arena/game.h"
+#include "base/version.h"
+#include "match/options/game_options.h"
+#include "players/player.h"
+#include "replay/unit/streams.h"
+#include "shell/assertion.h"
+#include "shell/log.h"
+
+namespace vandrel {
+
+namespace {
+
+constexpr int spawnSamples = 150;
+constexpr int oldSpawnSamples = 50;
+constexpr float safeDistance = 3.0f;  // squares from a closing wall, a flame or a bomb
+constexpr int announcementFrames = 1000;
+constexpr Vector2Base<float> announcementVelocity{0.0f, -1.0f};
+constexpr int chosenSquaresFrom = replayVersion(0, 95, 18);
+constexpr int recordedSpeedsFrom = replayVersion(0, 95, 23);
+constexpr int safeSquaresFrom = replayVersion(0, 96, 8);
+constexpr int manySamplesFrom = replayVersion(0, 96, 9);
+
+float spawnScore(const Game& game, Square square) {
+    if (game.isSquareBlocked(square, Blocked::SolidOrSnake) || game.isPlayerOnSquare(square.x, square.y, nullptr)) {
+        return 0.0f;
+    }
+    if (!game.replay.isOlderThan(safeSquaresFrom) &&
+        (game.isShrinkCursorNear(square, safeDistance) || game.isExplosionNear(square, safeDistance) ||
+         game.isBombNear(square, safeDistance))) {
+        return 0.0f;
+    }
+    float least = std::numeric_limits<float>::max();
+    for (const auto& player : players) {
+        if (!player->dead) {
+            const Square other = player->square();
+            const auto dx = static_cast<float>(square.x - other.x);
+            const auto dy = static_cast<float>(square.y - other.y);
+            least = std::min(least, dx * dx + dy * dy);
+        }
+    }
+    return least;
+}
+
+void announce(Game& game) {
+    const std::string text = fmt::format("{} snake{} remaining!", game.aiSnakesLeft, game.aiSnakesLeft == 1 ? "" : "s");
+    const Vector2Base<float> centre{static_cast<float>(arenaWidthPixels() / 2),
+                                    static_cast<float>(arenaHeightPixels() / 2)};
+    game.addToast(std::make_unique<TimedToast>(text, centre, announcementVelocity, announcementFrames, FontId::Font30));
+}
+
+void readSpeed(Game& game, Player& snake, bool& replayEnded) {
+    if (game.endMarkSeen || game.replay.isOlderThan(recordedSpeedsFrom)) {
+        return;
+    }
+    try {
+        snake.speed = static_cast<signed char>(readByte(game.replay.input));
+    } catch (const std::ios_base::failure&) {
+        if (!game.replay.input->eof()) {
+            throw;
+        }
+        logText("EOF (read AI snake speed)\n");
+        replayEnded = true;
+        game.endMarkSeen = true;
+        return;
+    }
+    VANDREL_CHECK_AT(snake.speed > 0 && snake.speed < 11, "player.back()->speed > 0 && player.back()->speed < 11",
+                     replayInputPos(game.replay));
+}
+
+}  // namespace
+
+std::optional<Square> Game::getAISnakeSpawnPos() {
+    const int samples = replay.isOlderThan(manySamplesFrom) ? oldSpawnSamples : spawnSamples;
+    return sampleBestSquare(
+        {1, 1}, {grid_squares_x - 2, grid_squares_y - 2}, [this](Square square) { return spawnScore(*this, square); },
+        samples);
+}
+
+void Game::updateAISnakes(bool& replayEnded) {
+    if (aiSnakesLeft < 1) {
+        return;
+    }
+    const auto living =
+        std::count_if(players.begin(), players.end(), [](const auto& player) { return player->isAI && !player->dead; });
+    if (living >= gameOptions.snakesAtOnce) {
+        return;
+    }
+    --aiSnakeCountdown;
+    if (aiSnakeCountdown > 0) {
+        return;
+    }
+    logText("Make AI snake\n");
+    const auto square = replay.isOlderThan(chosenSquaresFrom) ? middleSquare() : getAISnakeSpawnPos();
+    if (!square.has_value()) {
+        return;
+    }
+    logText(fmt::format("{{{},{}}}\n", square->x, square->y));
+    const auto snake = createAISnake(nextAISnakeNumber, *square, replay.version);
+    ++nextAISnakeNumber;
+    snake->game = this;
+    players.push_back(snake);
+    if (gameOptions.gameMode != GameMode::Everything) {
+        teams.at(1).members.push_back(snake);
+    }
+    announce(*this);
+    if (replay.playback) {
+        readSpeed(*this, *snake, replayEnded);
+    } else if (replay.writes()) {
+        writeByte(replay.output, snake->speed);
+    }
+    aiSnakeCountdown = gameOptions.snakeSpawnFrames;
+    --aiSnakesLeft;
+}
+
+}  // namespace vandrel
