@@ -1,5 +1,5 @@
-// The images by name. The position in this one list is the number of the image everywhere, and the name is that of its file
-// without the extension: the enumeration and the table of names cannot drift apart.
+// The images by name. The position in this one list is the number of the image everywhere, and the name is that of its
+// file without the extension: the enumeration and the table of names cannot drift apart.
 #pragma once
 
 #include <array>
@@ -49,21 +49,28 @@ enum class BitmapIds : int {
 #undef VANDREL_BITMAP_ID
 };
 
-inline constexpr std::array bitmapNames{
+inline constexpr int bitmapCount = static_cast<int>(BitmapIds::Django_01) + 1;
+static_assert(bitmapCount == 259);
+
+// The size is written out: clang cannot deduce it from more than 256 names.
+inline constexpr std::array<const char*, bitmapCount> bitmapNames{
 #define VANDREL_BITMAP_NAME(name) #name,
     VANDREL_BITMAPS(VANDREL_BITMAP_NAME)
 #undef VANDREL_BITMAP_NAME
 };
 
-inline constexpr int bitmapCount = static_cast<int>(bitmapNames.size());
-static_assert(bitmapCount == 259);
-
-constexpr int bitmapIndex(BitmapIds id) { return static_cast<int>(id); }
+constexpr int bitmapIndex(BitmapIds id) {
+    return static_cast<int>(id);
+}
 
 // The image `steps` places behind `id`: the frames of an animation and the heads of a skin stand in a row.
-constexpr BitmapIds operator+(BitmapIds id, int steps) { return static_cast<BitmapIds>(static_cast<int>(id) + steps); }
+constexpr BitmapIds operator+(BitmapIds id, int steps) {
+    return static_cast<BitmapIds>(static_cast<int>(id) + steps);
+}
 
 // The prize pictures are big and most sessions show none of them: they are loaded at first use.
-constexpr bool isLazyBitmap(BitmapIds id) { return id >= BitmapIds::Alien1; }
+constexpr bool isLazyBitmap(BitmapIds id) {
+    return id >= BitmapIds::Alien1;
+}
 
 }  // namespace vandrel
