@@ -1,0 +1,130 @@
+#include "replay/unit/verification.h"
+
+#include <fmt/format.h>
+
+#include <istream>
+#include <string>
+
+#include "base/version.h"
+#include "replay/unit/streams.h"
+#include "shell/assertion.h"
+
+namespace vandrel {
+
+namespace {
+
+constexpr int captureRecordsFrom = replayVersion(0, 0, 2);
+constexpr int wideCaptureScoresFrom = replayVersion(1, 0, 10);
+constexpr int snakeLinesFrom = replayVersion(0, 95, 4);
+constexpr int unprovedScoresFrom = replayVersion(1, 0, 9);
+constexpr int unprovedScoresBelow = replayVersion(1, 0, 12);
+
+ProofCounts counts;
+
+// A number that is missing or no number reads as 0, and then differs or fails the test of the stream.
+int readNumber(std::istream& text) {
+    int number = 0;
+    text >> number;
+    return number;
+}
+
+void comparePosition(const PackagedReplayData& replayData, const VerifiedPlayer& player) {
+    std::istream& text = *replayData.inputVerify;
+    const int verifyPlayer = readNumber(text);
+    VANDREL_CHECK(text.good(), "replayData.inputVerify->good()");
+    VANDREL_CHECK_AT(verifyPlayer == player.num, "verifyPlayer == num", replayInputPos(replayData));
+    const int verifyX = readNumber(text);
+    VANDREL_CHECK_AT(verifyX == player.x, "verifyX == x", replayInputPos(replayData));
+    const int verifyY = readNumber(text);
+    VANDREL_CHECK_AT(verifyY == player.y, "verifyY == y", replayInputPos(replayData));
+    ++counts.positions;
+    if (player.snakeLength < 1 || replayData.isOlderThan(snakeLinesFrom)) {
+        return;
+    }
+    const int verifyLength = readNumber(text);
+    VANDREL_CHECK_AT(player.snakeLength == verifyLength, "snakeLength == verifyLength", replayInputPos(replayData));
+    for (const auto& part : player.parts) {
+        const int partX = readNumber(text);
+        VANDREL_CHECK_AT(partX == std::get<0>(part), "verifyX == get<0>(part)", replayInputPos(replayData));
+        const int partY = readNumber(text);
+        VANDREL_CHECK_AT(partY == std::get<1>(part), "verifyY == get<1>(part)", replayInputPos(replayData));
+    }
+}
+
+// One hand-over for all lines of one player: the system takes a text of a few lines as fast as a single number.
+void writeText(std::ostream* text, const fmt::memory_buffer& lines) {
+    writeMarker(text, std::string_view(lines.data(), lines.size()));
+    flushWritten(text);
+}
+
+void writePosition(std::ostream* text, const VerifiedPlayer& player) {
+    fmt::memory_buffer lines;
+    const auto out = std::back_inserter(lines);
+    fmt::format_to(out, "{}\n{}\n{}\n", player.num, player.x, player.y);
+    if (player.snakeLength > 0) {
+        fmt::format_to(out, "{}", player.snakeLength);
+        for (const auto& part : player.parts) {
+            fmt::format_to(out, " {} {}", std::get<0>(part), std::get<1>(part));
+        }
+        lines.push_back('\n');
+    }
+    writeText(text, lines);
+}
+
+void compareCapture(const PackagedReplayData& replayData, int team, int teamScore) {
+    if (replayData.isOlderThan(captureRecordsFrom)) {
+        return;
+    }
+    const bool proved = replayData.isOlderThan(unprovedScoresFrom) || !replayData.isOlderThan(unprovedScoresBelow);
+    const int score = replayData.isOlderThan(wideCaptureScoresFrom) ? readByte(replayData.input) : readInt(replayData.input);
+    VANDREL_CHECK(!proved || score == teamScore, "score == teamObj.getScore()");
+    if (replayData.inputVerify == nullptr) {
+        return;
+    }
+    std::string txt;
+    *replayData.inputVerify >> txt;
+    const int teamNum = readNumber(*replayData.inputVerify);
+    const int verifyScore = readNumber(*replayData.inputVerify);
+    VANDREL_CHECK(txt == "CTFSCORE", "txt == \"CTFSCORE\"");
+    VANDREL_CHECK(teamNum == team, "teamNum == team");
+    VANDREL_CHECK(!proved || verifyScore == teamScore, "score == teamObj.getScore()");
+    ++counts.captures;
+}
+
+}  // namespace
+
+void verifyPosition(const PackagedReplayData& replayData, const VerifiedPlayer& player) {
+    if (replayData.playback) {
+        if (replayData.inputVerify != nullptr) {
+            comparePosition(replayData, player);
+        }
+    } else if (replayData.recording && replayData.outputVerify != nullptr) {
+        writePosition(replayData.outputVerify, player);
+    }
+}
+
+void verifyCapture(const PackagedReplayData& replayData, int team, int score) {
+    if (replayData.playback) {
+        compareCapture(replayData, team, score);
+    } else if (replayData.recording) {
+        writeInt(replayData.output, score);
+        if (replayData.outputVerify != nullptr) {
+            fmt::memory_buffer lines;
+            fmt::format_to(std::back_inserter(lines), "CTFSCORE\n{}\n{}\n", team, score);
+            writeText(replayData.outputVerify, lines);
+        }
+    }
+}
+
+void verifyEnd(const PackagedReplayData& replayData) {
+    if (replayData.inputVerify == nullptr) {
+        return;
+    }
+    std::string end;
+    *replayData.inputVerify >> end;
+    VANDREL_CHECK(end == "END", "end == \"END\"");
+}
+
+const ProofCounts& proofCounts() { return counts; }
+
+}  // namespace vandrel
