@@ -61,7 +61,7 @@ void readSpeed(Game& game, Player& snake, bool& replayEnded) {
         return;
     }
     try {
-        snake.speed = static_cast<signed char>(readByte(game.replay.input));
+        snake.speed = readSignedByte(game.replay.input);
     } catch (const std::ios_base::failure&) {
         if (!game.replay.input->eof()) {
             throw;

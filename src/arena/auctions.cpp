@@ -37,7 +37,7 @@ int drawLot(const PackagedReplayData& replay) {
         logText("Get auction powerup from replay\n");
         const char c = static_cast<char>(readByte(replay.input));
         VANDREL_CHECK(c == 'A', "c == 'A'");
-        return static_cast<signed char>(readByte(replay.input));
+        return readSignedByte(replay.input);
     }
     const int bonus = chooseBonus(true);
     if (replay.writes()) {

@@ -9,13 +9,14 @@
 #include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
+#include "replay/unit/streams.h"
 #include "shell/log.h"
 
 namespace vandrel {
 
 namespace {
 
-constexpr int endMark = 119;
+
 constexpr int roundEndFrames = 240;
 constexpr float roundEndFadeSeconds = 4.0f;
 constexpr int crawlingTeamsFrom = replayVersion(0, 95, 2);
@@ -31,7 +32,7 @@ NextByte peekReplay(std::istream* input) {
         throw std::runtime_error("File not open for reading");
     }
     try {
-        return input->peek() == endMark ? NextByte::EndMark : NextByte::Record;
+        return input->peek() == replayEndMark ? NextByte::EndMark : NextByte::Record;
     } catch (const std::ios_base::failure&) {
         logText("peek: ios_base failure\n");
         if (!atEndOfFile(input)) {
@@ -107,7 +108,7 @@ void Game::updatePlayers(bool& replayEnded) {
         replayEnded = true;
         endMarkSeen = true;
     } catch (int mark) {
-        if (mark != endMark) {
+        if (mark != replayEndMark) {
             throw;
         }
         replayEnded = true;

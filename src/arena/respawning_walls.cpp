@@ -8,6 +8,7 @@
 #include "arena/bonus.h"
 #include "arena/game.h"
 #include "base/random.h"
+#include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
 #include "replay/unit/streams.h"
@@ -93,7 +94,7 @@ bool Game::standWall(const PendingWall& wall) {
         }
         const char c = static_cast<char>(readByte(replay.input));
         VANDREL_CHECK(c == 'B', "c == 'B'");
-        const int bonus = static_cast<signed char>(readByte(replay.input));
+        const int bonus = readSignedByte(replay.input);
         squareGrid.set(square, SquareKind::Wall);
         bonusGrid.at(square) = bonus;
         return true;
