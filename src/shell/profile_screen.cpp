@@ -66,7 +66,7 @@ double timeWrites(std::size_t pass) {
 void drawPictures(const std::array<double, 2>& seconds) {
     clearToBlack(*screen);
     {
-        const DrawingBatch batch;
+        const DrawingBatch batch(*screen);
         for (int i = 0; i < picturesPerFrame; ++i) {
             const int x = gameRand() % pictureColumns;
             const int y = gameRand() % pictureRows;

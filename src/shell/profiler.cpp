@@ -14,8 +14,12 @@ void Profiler::start(const std::string& name) {
 
 double Profiler::stop(const std::string& name) {
     const auto now = std::chrono::steady_clock::now();
-    const std::chrono::duration<double> seconds = now - checkedHashKey(starts, name);
-    starts.erase(name);
+    const auto watch = starts.find(name);
+    if (watch == starts.end()) {
+        return 0.0;
+    }
+    const std::chrono::duration<double> seconds = now - watch->second;
+    starts.erase(watch);
     return seconds.count();
 }
 

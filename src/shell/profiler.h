@@ -14,7 +14,8 @@ class Profiler {
     // Starts the watch of that name, or starts it again.
     void start(const std::string& name);
 
-    // The seconds since `start`; the watch is gone. Throws std::out_of_range for a watch that was not started.
+    // The seconds since `start`; the watch is gone. 0 for a watch that does not run: screens nest, and an inner screen
+    // has stopped the watches of the same names in the middle of the outer one's update.
     double stop(const std::string& name);
 
     // Begins the average of `name` over its last `window` samples, or begins it again.

@@ -1,0 +1,74 @@
+#include "shell/paths.h"
+
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <optional>
+#include <string>
+
+#include "shell/shell_test_tools.h"
+
+namespace vandrel::test {
+namespace {
+
+TEST(PathsTest, TheEnvironmentSaysWhereTheDataLies) {
+    const ScratchDirectory root;
+    struct Case {
+        const char* what;
+        std::optional<std::string> xdgDataHome;
+        std::optional<std::string> home;
+        std::string expected;
+    };
+    const std::string home = root.path + "/home of X";
+    const Case cases[] = {
+        {"the data home counts first", root.path + "/data", home, root.path + "/data/vandrel"},
+        {"no data home", std::nullopt, home, home + "/.local/share/vandrel"},
+        {"an empty data home", "", home, home + "/.local/share/vandrel"},
+        {"a relative data home", "data", home, home + "/.local/share/vandrel"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const ScopedEnvironment xdg("XDG_DATA_HOME", c.xdgDataHome);
+        const ScopedEnvironment homeVariable("HOME", c.home);
+        EXPECT_EQ(appDataPath(), c.expected);
+        EXPECT_EQ(appDataDir(), c.expected);
+        EXPECT_EQ(replaysDir(), c.expected + "/replays");
+        EXPECT_TRUE(std::filesystem::is_directory(c.expected + "/replays"));
+        EXPECT_EQ(appDataDir(), c.expected) << "it may be there already";
+    }
+}
+
+TEST(PathsTest, WithoutAHomeTheUserDatabaseIsAsked) {
+    const ScopedEnvironment xdg("XDG_DATA_HOME", std::nullopt);
+    const ScopedEnvironment home("HOME", std::nullopt);
+    EXPECT_EQ(appDataPath(), std::string(getpwuid(getuid())->pw_dir) + "/.local/share/vandrel");
+}
+
+TEST(PathsTest, NewFoldersAreForTheUserAlone) {
+    const ScratchDirectory root;
+    const ScopedEnvironment xdg("XDG_DATA_HOME", root.path + "/a/b");
+    replaysDir();
+    for (const char* created : {"/a", "/a/b", "/a/b/vandrel", "/a/b/vandrel/replays"}) {
+        struct stat status {};
+        ASSERT_EQ(stat((root.path + created).c_str(), &status), 0) << created;
+        EXPECT_EQ(status.st_mode & 0777U, 0700U) << created;
+    }
+}
+
+TEST(PathsTest, AFolderThatCannotBeMadeNamesTheOperation) {
+    const ScratchDirectory root;
+    writeFile(root.path + "/file", "");
+    const ScopedEnvironment xdg("XDG_DATA_HOME", root.path + "/file/deeper");
+    try {
+        appDataDir();
+        FAIL() << "a directory below a file";
+    } catch (const std::filesystem::filesystem_error& failure) {
+        EXPECT_NE(std::string(failure.what()).find("create_directory"), std::string::npos) << failure.what();
+        EXPECT_EQ(failure.code(), std::errc::not_a_directory);
+    }
+}
+
+}  // namespace
+}  // namespace vandrel::test
