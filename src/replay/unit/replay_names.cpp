@@ -1,0 +1,117 @@
+#include "replay/unit/replay_names.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <boost/algorithm/string.hpp>
+#include <cerrno>
+#include <charconv>
+#include <fstream>
+#include <stdexcept>
+#include <string_view>
+#include <system_error>
+
+#include "base/version.h"
+#include "replay/unit/option_record.h"
+#include "replay/unit/verify_files.h"
+#include "shell/paths.h"
+
+namespace vandrel {
+
+namespace {
+
+// As `std::stoi` reads: blanks, a sign, digits, and then whatever there is; with texts of our own.
+int parseNumber(const std::string& text) {
+    const std::string trimmed = boost::trim_left_copy(text);
+    const bool plus = boost::starts_with(trimmed, "+") && !boost::starts_with(trimmed, "+-");
+    const std::string_view digits = std::string_view(trimmed).substr(plus ? 1 : 0);
+    int number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error == std::errc::result_out_of_range) {
+        throw std::out_of_range("stoi argument out of range");
+    }
+    if (error != std::errc()) {
+        throw std::invalid_argument("invalid stoi argument");
+    }
+    return number;
+}
+
+std::uint64_t sizeOf(const std::string& path) {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(path, error);
+    return error ? 0 : static_cast<std::uint64_t>(size);
+}
+
+void readHeader(ReplayInfo& info) {
+    int version = -1;
+    try {
+        std::ifstream stream(info.path, std::ios::in | std::ios::binary);
+        stream.exceptions(std::ios::badbit | std::ios::failbit | std::ios::eofbit);
+        const auto options = readGameOptions(stream, version);
+        if (version < 0) {
+            info.errors.push_back("Invalid replay version: " + versionText(version));
+        } else if (!options) {
+            info.errors.push_back("Replay from future version of game: " + versionText(version));
+        } else {
+            info.version = version;
+            info.gameMode = static_cast<int>(options->gameMode);
+            info.numPlayers = options->numPlayers;
+        }
+    } catch (const std::exception& failure) {
+        info.errors = {failure.what(), "One possible cause is a crash while starting a game",
+                       "You can safely delete this file"};
+    }
+}
+
+void addReplay(std::vector<ReplayInfo>& replays, const std::filesystem::directory_entry& entry, bool readHeaders) {
+    const std::string name = entry.path().filename().string();
+    std::vector<std::string> parts;
+    boost::split(parts, name, [](char c) { return c == '.'; });
+    if (parts.size() < 2 || parts.back() != "replay") {
+        return;
+    }
+    ReplayInfo info;
+    info.number = parseNumber(parts.front());
+    info.path = entry.path().string();
+    info.entry = entry;
+    info.size = sizeOf(info.path) + sizeOf(plainVerifyPath(info.path)) + sizeOf(compressedVerifyPath(info.path));
+    if (readHeaders) {
+        readHeader(info);
+    }
+    replays.push_back(std::move(info));
+}
+
+}  // namespace
+
+std::vector<ReplayInfo> getAllReplays(bool readHeaders) {
+    std::vector<ReplayInfo> replays;
+    try {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(replaysDir())) {
+            addReplay(replays, entry, readHeaders);
+        }
+    } catch (const std::filesystem::filesystem_error&) {
+        // The list of what could be walked is what there is.
+    }
+    // Times are asked for once: a file that is written meanwhile must not upset the order.
+    std::vector<std::pair<std::filesystem::file_time_type, std::size_t>> order;
+    for (std::size_t i = 0; i < replays.size(); ++i) {
+        std::error_code error;
+        order.emplace_back(std::filesystem::last_write_time(replays[i].path, error), i);
+    }
+    std::sort(order.begin(), order.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::vector<ReplayInfo> sorted;
+    for (const auto& [time, index] : order) {
+        sorted.push_back(std::move(replays[index]));
+    }
+    return sorted;
+}
+
+std::string newReplayName() {
+    int highest = -1;
+    for (const ReplayInfo& info : getAllReplays(false)) {
+        highest = std::max(highest, info.number);
+    }
+    return fmt::format("{}/{}.{}.replay", replaysDir(), highest + 1, versionText(replayOutputVersion));
+}
+
+}  // namespace vandrel
