@@ -1,0 +1,208 @@
+#include "match/play_the_game.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "arena/game.h"
+#include "arena/level_generation.h"
+#include "arena/sparks.h"
+#include "base/checked.h"
+#include "input/controls_manager.h"
+#include "match/match_players.h"
+#include "match/options/automatic_options.h"
+#include "match/options/game_options.h"
+#include "match/options/name_tables.h"
+#include "match/round_files.h"
+#include "match/round_transitions.h"
+#include "players/player.h"
+#include "presentation/ogg_music.h"
+#include "shell/game_screen.h"
+#include "shell/log.h"
+#include "shell/message_box.h"
+#include "shell/switches.h"
+#include "shell/timing.h"
+#include "shell/update_rate.h"
+
+namespace vandrel {
+
+namespace {
+
+constexpr int teamsInHeaderFrom = 4;  // the version from which a replay brings its own teams
+
+void logFrameRate() {
+    logText(fmt::format("Average FPS: {:.1f}\n", frameRateFigure()));
+}
+
+bool isHeldByPlayer(const Controls& device) {
+    return std::any_of(players.begin(), players.end(),
+                       [&](const auto& player) { return player->controls.get() == &device; });
+}
+
+// One match. Its members last for the match; what lasts a round is local to `playRound`.
+class Match {
+  public:
+    Match(bool record, const std::string& replayName, ReplayTestOptions testOptions)
+        : record_(record), replayName_(replayName), testOptions_(testOptions), optionsBackup_(gameOptions) {}
+
+    bool play();
+
+  private:
+    enum class RoundResult { NextRound, MatchOver, Quit, NoSpace };
+
+    void enter();
+    void makePlayers();
+    RoundResult playRound();
+    bool setUp(Game& game, const PackagedReplayData& data);
+    RoundEnding runFrames(Game& game);
+    RoundResult endRound(Game& game, const RoundEnding& ending, RoundBeingRecorded& recorded);
+    void leave();
+    bool isPlayback() const { return replay_.has_value(); }
+
+    bool record_;
+    std::string replayName_;
+    ReplayTestOptions testOptions_;
+    GameOptions optionsBackup_;
+    std::optional<ReplayBeingPlayed> replay_;
+    std::shared_ptr<Music> music_;
+    bool firstRound_ = true;
+};
+
+void Match::enter() {
+    logText("New game" + (replayName_.empty() ? "" : ", replay: " + replayName_) + "\n");
+    clearMatch();
+    if (replayName_.empty()) {
+        reaches = Reaches{};
+        return;
+    }
+    replay_.emplace(replayName_);
+    setUpdateRate(gameOptions.updaterate, gameOptions);
+}
+
+void Match::makePlayers() {
+    const bool headerHasTeams = isPlayback() && replay_->version() >= teamsInHeaderFrom;
+    if (!headerHasTeams && gameOptions.quickStartPlayers >= 1 && isTeamMode(gameOptions.gameMode)) {
+        makeQuickStartTeams();
+    }
+    if (isPlayback()) {
+        makeReplayPlayers(replay_->playerSetups(), replay_->version(), theControlsManager->devices);
+    } else {
+        gameOptions.numPlayers = gameOptions.quickStartPlayers + 1;
+        makeQuickStartPlayers(theControlsManager->devices);
+    }
+    makeSnakeHunterTeams();
+    theControlsManager->isHeldByPlayer = isHeldByPlayer;
+}
+
+bool Match::setUp(Game& game, const PackagedReplayData& data) {
+    Square size{grid_squares_x, grid_squares_y};
+    if (!isPlayback()) {
+        const ArenaSize& chosen = checkedAt(arenaSizes, gameOptions.arenaSizeResolved.value());
+        size = {chosen.width, chosen.height};
+    }
+    try {
+        setUpRound(size, data, game, false);
+    } catch (const Game::PlayerPositionSetupError& error) {
+        setGameScreenSlot(menuScreenSlot);
+        showMessageBox(error.what());
+        return false;
+    }
+    game.shrinkCountdown = gameOptions.timeBeforeShrinkingFrames.value();
+    game.aiSnakeCountdown = gameOptions.snakePreparationFrames;
+    game.aiSnakesLeft = gameOptions.snakeCount;
+    return true;
+}
+
+RoundEnding Match::runFrames(Game& game) {
+    for (const auto& player : players) {
+        player->startRound();
+    }
+    sparks.clear();
+    if (game.shrinkAllowed) {
+        music_ = makeMatchMusic();
+    }
+    return FrameLoop(game, music_, testOptions_, replayName_, realWorld()).run();
+}
+
+Match::RoundResult Match::playRound() {
+    logText(fmt::format("New round; randomness {}\n", gameOptions.randomness));
+    if (!isPlayback()) {
+        automaticOptions();
+    }
+    RoundBeingRecorded recorded(record_ && !isPlayback());
+    const PackagedReplayData data = isPlayback() ? replay_->data(record_) : recorded.data();
+    Game game(data);
+    if (!firstRound_ && !isPlayback() && gameOptions.randomnessIncrease != 0 && gameOptions.randomness < 2) {
+        incrementRandomness(game);
+    }
+    if (!setUp(game, data)) {
+        return RoundResult::NoSpace;
+    }
+    firstRound_ = false;
+    const RoundEnding ending = runFrames(game);
+    return endRound(game, ending, recorded);
+}
+
+Match::RoundResult Match::endRound(Game& game, const RoundEnding& ending, RoundBeingRecorded& recorded) {
+    if (ending.roundOver) {
+        logText("Round over\n");
+    }
+    if (ending.quit) {
+        logText("Quit\n");
+    }
+    if (ending.replayEnded) {
+        logText("Replay ended early\n");
+    }
+    logFrameRate();
+    if (music_ != nullptr) {
+        music_->stop();
+    }
+    if (isPlayback()) {
+        replay_->finish(!ending.quit && !ending.replayEnded);
+    } else {
+        recorded.finish();
+    }
+    if (ending.quit) {
+        return RoundResult::Quit;
+    }
+    bool matchOver = false;
+    if (!ending.replayEnded && !testOptions_.skipRoundEnd) {
+        matchOver = finishRound(game);
+    }
+    return matchOver || isPlayback() ? RoundResult::MatchOver : RoundResult::NextRound;
+}
+
+void Match::leave() {
+    fastForward = false;
+    logText("Game ended\n");
+    clearMatch();
+    gameOptions = optionsBackup_;
+    setUpdateRate(gameOptions.updaterate, gameOptions);
+}
+
+bool Match::play() {
+    enter();
+    makePlayers();
+    if (testOptions_.fastForward) {
+        fastForward = true;
+    }
+    RoundResult result = RoundResult::NextRound;
+    while (result == RoundResult::NextRound) {
+        result = playRound();
+    }
+    if (result == RoundResult::NoSpace) {
+        return true;
+    }
+    leave();
+    return result == RoundResult::Quit;
+}
+
+}  // namespace
+
+bool play_the_game(bool record, const std::string& replayName, ReplayTestOptions testOptions) {
+    return Match(record, replayName, testOptions).play();
+}
+
+}  // namespace vandrel

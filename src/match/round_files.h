@@ -1,0 +1,56 @@
+// The files of one round: the replay that is played, or the replay and verification text that are written.
+#pragma once
+
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "replay/unit/header.h"
+#include "replay/unit/packaged_replay_data.h"
+
+namespace vandrel {
+
+// A replay opened for playing. Opening loads its header, which replaces `gameOptions`, the arena's size, the reach of
+// flags and the teams.
+class ReplayBeingPlayed {
+  public:
+    // Throws what reading the header throws.
+    explicit ReplayBeingPlayed(const std::string& name);
+
+    int version() const { return version_; }
+    const std::vector<PlayerSetup>& playerSetups() const { return playerSetups_; }
+    // Ready for `Game`.
+    PackagedReplayData data(bool record);
+    // Closes the file. With `cameToItsEnd` requires that the verification text is used up.
+    void finish(bool cameToItsEnd);
+
+  private:
+    std::string name_;
+    std::ifstream file_;
+    int version_ = 0;
+    std::vector<PlayerSetup> playerSetups_;
+    std::shared_ptr<std::istream> verify_;
+};
+
+// A round being recorded, or, made with `record` off, one that writes nothing.
+class RoundBeingRecorded {
+  public:
+    // Creates the next replay file and its verification text, and writes the header from `gameOptions`, players and
+    // teams. The arena's size is that of the resolved options.
+    explicit RoundBeingRecorded(bool record);
+
+    PackagedReplayData data();
+    // Writes the end mark and proves the verification file. To be called at every end of a round, a quit one too.
+    void finish();
+    // The replay's path; empty where nothing is recorded.
+    const std::string& name() const { return name_; }
+
+  private:
+    bool record_;
+    std::string name_;
+    std::ofstream file_;
+    std::ofstream verify_;
+};
+
+}  // namespace vandrel

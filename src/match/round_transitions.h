@@ -1,0 +1,32 @@
+// What lies between two rounds of a match: the winners are scored, and the level's randomness may rise.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "arena/game.h"
+
+namespace vandrel {
+
+// A player or a team on the score table.
+struct ScoringEntity {
+    int previousScore = 0;  // rounds won before this one
+    int score = 0;          // and after it
+    std::vector<std::shared_ptr<Player>> players;
+    std::optional<ALLEGRO_COLOR> teamColour;  // empty for a single player
+};
+
+// Adds the round to the tally of its winners and gives the score table: all teams, or all players, in their order.
+std::vector<ScoringEntity> scoreRound(const Winners& winners);
+
+// Scores the round, removes the snakes of the computer, and says whether the match is over: somebody has `winsNeeded`
+// rounds.
+bool finishRound(const Game& game);
+
+// May raise `randomness` by one and shows it for 120 ticks. Called between two rounds of a match whose randomness can
+// still rise; draws once from `globalGenerator` in any case.
+void incrementRandomness(Game& game);
+
+}  // namespace vandrel
