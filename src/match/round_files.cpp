@@ -46,16 +46,28 @@ void ReplayBeingPlayed::finish(bool cameToItsEnd) {
     }
 }
 
-RoundBeingRecorded::RoundBeingRecorded(bool record) : record_(record) {
+namespace {
+
+// Exceptions would be raised at once on a file that could not be opened; that is for the first write to tell.
+void createFile(std::ofstream& file, const std::string& path, std::ios::openmode mode) {
+    file.open(path, mode);
+    if (file.is_open()) {
+        file.exceptions(std::ios::eofbit | std::ios::failbit | std::ios::badbit);
+    }
+}
+
+}  // namespace
+
+RoundBeingRecorded::RoundBeingRecorded(bool record) : RoundBeingRecorded(record ? newReplayName() : std::string()) {}
+
+RoundBeingRecorded::RoundBeingRecorded(const std::string& name) : record_(!name.empty()), name_(name) {
     if (!record_) {
         return;
     }
-    name_ = newReplayName();
     logText("Creating replay: " + name_ + "\n");
-    file_.open(name_, std::ios::binary | std::ios::out);
-    file_.exceptions(std::ios::eofbit | std::ios::failbit | std::ios::badbit);
+    createFile(file_, name_, std::ios::binary | std::ios::out);
     if (verifyEnabled) {
-        verify_.open(name_ + ".verify");
+        createFile(verify_, plainVerifyPath(name_), std::ios::out);
     }
     const ArenaSize& size = checkedAt(arenaSizes, gameOptions.arenaSizeResolved.value());
     grid_squares_x = size.width;
@@ -79,6 +91,7 @@ void RoundBeingRecorded::finish() {
         return;
     }
     writeByte(&file_, replayEndMark);
+    flushWritten(&file_);
     file_.close();
     if (verifyEnabled) {
         finishVerifyFile(name_, verify_);

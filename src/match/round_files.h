@@ -39,6 +39,8 @@ class RoundBeingRecorded {
     // Creates the next replay file and its verification text, and writes the header from `gameOptions`, players and
     // teams. The arena's size is that of the resolved options.
     explicit RoundBeingRecorded(bool record);
+    // The same with a path of the caller's choice; an empty one records nothing.
+    explicit RoundBeingRecorded(const std::string& name);
 
     PackagedReplayData data();
     // Writes the end mark and proves the verification file. To be called at every end of a round, a quit one too.

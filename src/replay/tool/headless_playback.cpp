@@ -1,0 +1,62 @@
+#include "replay/tool/headless_playback.h"
+
+#include "arena/arena.h"
+#include "arena/level_generation.h"
+#include "arena/sparks.h"
+#include "input/controls.h"
+#include "match/match_players.h"
+#include "players/player.h"
+#include "replay/unit/streams.h"
+#include "replay/unit/verification.h"
+#include "shell/frame_counter.h"
+
+namespace vandrel {
+
+void startRound(Game& game) {
+    game.shrinkCountdown = gameOptions.timeBeforeShrinkingFrames.value();
+    game.aiSnakeCountdown = gameOptions.snakePreparationFrames;
+    game.aiSnakesLeft = gameOptions.snakeCount;
+    for (const auto& player : players) {
+        player->startRound();
+    }
+    sparks.clear();
+    frameCounter = 0;
+}
+
+HeadlessPlayback::HeadlessPlayback(const std::string& path) : replay_(path), data_(replay_.data(false)) {
+    const Square arenaSize{grid_squares_x, grid_squares_y};
+    players.clear();
+    makeReplayPlayers(replay_.playerSetups(), replay_.version(), {std::make_shared<NoControls>()});
+    makeSnakeHunterTeams();
+    game_ = std::make_unique<Game>(data_);
+    setUpRound(arenaSize, data_, *game_, false);
+    startRound(*game_);
+}
+
+HeadlessPlayback::~HeadlessPlayback() {
+    game_.reset();
+    clearMatch();
+    sparks.clear();
+}
+
+bool HeadlessPlayback::step() {
+    if (end_ != PlaybackEnd::Running) {
+        return false;
+    }
+    bool roundOver = false;
+    bool replayEnded = false;
+    game_->update(roundOver, replayEnded, nullptr);
+    ++frameCounter;
+    if (replayEnded) {
+        end_ = data_.input->eof() ? PlaybackEnd::CutShort : PlaybackEnd::EndMark;
+    } else if (roundOver) {
+        end_ = PlaybackEnd::RoundOver;
+    }
+    return end_ == PlaybackEnd::Running;
+}
+
+void HeadlessPlayback::finish() { replay_.finish(end_ == PlaybackEnd::RoundOver || end_ == PlaybackEnd::EndMark); }
+
+long long HeadlessPlayback::position() const { return replayInputPos(data_); }
+
+}  // namespace vandrel

@@ -1,0 +1,61 @@
+// One recorded round, played with no screen as fast as it can be: what the match driver does around a round, and no more.
+// vandrel-replay, the tests and the benchmarks use it. There is one arena in the process, so one round at a time.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "arena/game.h"
+#include "match/options/game_options.h"
+#include "match/round_files.h"
+
+namespace vandrel {
+
+// How a playback came to its end.
+enum class PlaybackEnd {
+    Running,
+    RoundOver,  // the round's own end
+    EndMark,    // the recording was stopped before that
+    CutShort,   // the file breaks off
+};
+
+class HeadlessPlayback {
+  public:
+    // Opens the replay and sets its round up. Throws whatever a broken file has the reading operations throw.
+    explicit HeadlessPlayback(const std::string& path);
+    // Empties the arena and puts the options back.
+    ~HeadlessPlayback();
+    HeadlessPlayback(const HeadlessPlayback&) = delete;
+    HeadlessPlayback& operator=(const HeadlessPlayback&) = delete;
+
+    // Plays one update; false once there is no more. Throws the failed assertion of the first difference.
+    bool step();
+    // To be called behind the last step: closes the file and requires that the verification text, if there is one, is used up.
+    // A file that breaks off is let be.
+    void finish();
+
+    PlaybackEnd end() const { return end_; }
+    bool isVerified() const { return data_.inputVerify != nullptr; }
+    int version() const { return replay_.version(); }
+    const Game& game() const { return *game_; }
+    // Where the next record begins, in bytes from the start of the file.
+    long long position() const;
+
+  private:
+    struct OptionsBackup {
+        GameOptions options = gameOptions;
+        ~OptionsBackup() { gameOptions = options; }
+    };
+
+    OptionsBackup backup_;
+    ReplayBeingPlayed replay_;
+    PackagedReplayData data_;
+    std::unique_ptr<Game> game_;
+    PlaybackEnd end_ = PlaybackEnd::Running;
+};
+
+// What the rules want done between the set-up of a round and its first update.
+void startRound(Game& game);
+
+}  // namespace vandrel
