@@ -34,7 +34,8 @@ BitmapWrapper::BitmapWrapper(int width, int height, bool preserve)
 BitmapWrapper::BitmapWrapper(ALLEGRO_BITMAP* existing, bool ownsIt) : bitmap(existing), owned(ownsIt) {}
 
 BitmapWrapper::~BitmapWrapper() {
-    if (owned) {
+    // At the end of the process the platform goes before the globals do, and has freed every bitmap by then.
+    if (owned && al_is_system_installed()) {
         destroyBitmap(bitmap);
     }
 }

@@ -1,0 +1,78 @@
+#include "presentation/image_index.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+
+namespace vandrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ImageIndexTest : public ::testing::Test {
+  protected:
+    ImageIndexTest() {
+        std::string name = (fs::temp_directory_path() / "vandrel-index-XXXXXX").string();
+        root_ = mkdtemp(name.data());
+    }
+    ~ImageIndexTest() override { fs::remove_all(root_); }
+
+    void touch(const std::string& path) const {
+        fs::create_directories((root_ / path).parent_path());
+        std::ofstream(root_ / path) << "x";
+    }
+    std::string find(const std::string& name) const {
+        return fs::relative(ImageIndex(root_).pathOf(name), root_).string();
+    }
+
+    fs::path root_;
+};
+
+TEST_F(ImageIndexTest, SearchesSubdirectoriesOnly) {
+    touch("Deep.png");
+    touch("a/b/Deep.png");
+    EXPECT_EQ(find("Deep"), "a/b/Deep.png");
+
+    touch("Top.png");
+    try {
+        find("Top");
+        FAIL() << "found in the root";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "Image not found: Top");
+    }
+}
+
+TEST_F(ImageIndexTest, TakesTheFirstDirectoryAndThereTheFirstExtension) {
+    for (const char* extension : {".jpeg", ".jpg", ".png", ".bmp", ".tga"}) {
+        touch(std::string("a/Many") + extension);
+    }
+    EXPECT_EQ(find("Many"), "a/Many.tga");
+
+    touch("b/Twice.tga");
+    touch("a/z/Twice.jpeg");
+    touch("c/Twice.png");
+    EXPECT_EQ(find("Twice"), "a/z/Twice.jpeg");
+
+    touch("d/Parent.jpg");
+    touch("d/child/Parent.tga");
+    EXPECT_EQ(find("Parent"), "d/Parent.jpg");
+}
+
+TEST_F(ImageIndexTest, PassesOverWhatIsNoImageOfThatName) {
+    touch("a/Name.gif");
+    touch("a/Name2.png");
+    touch("a/name.png");
+    touch(".hidden/Name.png");
+    fs::create_directories(root_ / "elsewhere/.inner");
+    touch("elsewhere/.inner/Name.png");
+    fs::create_directory_symlink(root_ / ".hidden", root_ / "link");
+    EXPECT_THROW(find("Name"), std::runtime_error);
+    EXPECT_EQ(find("Name2"), "a/Name2.png");
+}
+
+}  // namespace
+}  // namespace vandrel

@@ -1,0 +1,225 @@
+// The shader and the composed pictures of players on a real display.
+#include "presentation/recolour_shader.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "players/sprites_drawing.h"
+#include "presentation/bitmaps.h"
+#include "presentation/drawing.h"
+#include "shell/accessibility.h"
+#include "support/drawing_stage.h"
+
+namespace vandrel {
+namespace {
+
+const ALLEGRO_COLOR white = toColour({255, 255, 255});
+constexpr RGB ink{28, 20, 36};
+
+class RecolourOnDisplay : public DrawingOnDisplay {
+  protected:
+    RecolourOnDisplay() { createRecolourShader(); }
+    ~RecolourOnDisplay() override {
+        destroyRecolourShader();
+        releaseSpriteCache();
+        accessibility = AccessibilitySettings();
+    }
+
+    // One row of differently coloured pixels in the middle of an image that is otherwise empty, from column 8 on.
+    static void loadPalette(BitmapIds id) {
+        writeImage(std::string("images/") + bitmapNames.at(static_cast<unsigned>(id)) + ".png", 32, 32,
+                   [](int x, int y) {
+                       static const RGB row[] = {{192, 192, 192}, {96, 96, 96}, {144, 146, 143}, {0, 0, 0},
+                                                 {255, 255, 255}, ink,          {190, 192, 194}, {200, 200, 200}};
+                       return y == 16 && x >= 8 && x < 16 ? toColour(row[x - 8]) : clearPixel;
+                   });
+        loadBitmaps(bitmapIndex(id));
+    }
+
+    static std::unique_ptr<BitmapWrapper> paint(BitmapIds id, const RecolourSettings& settings) {
+        auto canvas = std::make_unique<BitmapWrapper>(40, 40, true);
+        clearTo(*canvas, clearPixel);
+        useRecolourShader(settings);
+        drawId(*canvas, id, 0, 0);
+        stopRecolourShader();
+        return canvas;
+    }
+};
+
+RecolourSettings greyTo(RGB colour, bool dark) {
+    RecolourSettings settings;
+    settings.baseCol = toColour({192, 192, 192});
+    settings.newCol = toColour(colour);
+    settings.doDarkCol = dark;
+    return settings;
+}
+
+TEST_F(RecolourOnDisplay, GreysBecomeShadesOfTheColour) {
+    loadPalette(BitmapIds::Head0_D_014);
+    const auto shaded = paint(BitmapIds::Head0_D_014, greyTo({200, 100, 50}, true));
+    EXPECT_EQ(pixelAt(*shaded, 8, 16), (RGB{200, 100, 50}));
+    EXPECT_EQ(pixelAt(*shaded, 9, 16), (RGB{100, 50, 25}));
+    EXPECT_NEAR(pixelAt(*shaded, 10, 16).red, 152, 3) << "almost neutral counts as neutral";
+    EXPECT_EQ(pixelAt(*shaded, 11, 16), (RGB{0, 0, 0}));
+    EXPECT_EQ(pixelAt(*shaded, 12, 16), (RGB{255, 255, 255}));
+    EXPECT_EQ(pixelAt(*shaded, 13, 16), ink);
+    EXPECT_EQ(pixelAt(*shaded, 15, 16), (RGB{200, 200, 200})) << "brighter than the base";
+    EXPECT_TRUE(isTransparentAt(*shaded, 7, 16));
+
+    const auto exact = paint(BitmapIds::Head0_D_014, greyTo({200, 100, 50}, false));
+    EXPECT_EQ(pixelAt(*exact, 8, 16), (RGB{200, 100, 50}));
+    EXPECT_EQ(pixelAt(*exact, 9, 16), (RGB{96, 96, 96}));
+    EXPECT_EQ(pixelAt(*exact, 14, 16), (RGB{200, 100, 50})) << "within the tolerance";
+}
+
+TEST_F(RecolourOnDisplay, AnyPixelTakesTheWholeFigure) {
+    loadPalette(BitmapIds::Snail);
+    RecolourSettings settings = greyTo({1, 2, 3}, false);
+    settings.baseColAny = true;
+    const auto painted = paint(BitmapIds::Snail, settings);
+    for (int x = 8; x < 16; ++x) {
+        EXPECT_EQ(pixelAt(*painted, x, 16), (RGB{1, 2, 3})) << x;
+    }
+    EXPECT_TRUE(isTransparentAt(*painted, 8, 15));
+}
+
+TEST_F(RecolourOnDisplay, TheOutlineClosesRoundTheFigureAndKeepsInsideItsImage) {
+    loadPlainImage(bitmapIndex(BitmapIds::Bomb1), {0, 255, 0});  // neighbours in the atlas are full to the edge
+    writeImage("images/Bomb2.png", 32, 32, [](int x, int y) {
+        const bool box = x >= 10 && x < 14 && y >= 10 && y < 14;
+        const bool corner = x == 0 && y == 0;
+        return box || corner ? toColour(ink) : clearPixel;
+    });
+    loadBitmaps(bitmapIndex(BitmapIds::Bomb2));
+    loadPlainImage(bitmapIndex(BitmapIds::Bomb3), {0, 255, 0});
+    RecolourSettings settings;
+    settings.outlineCol = white;
+    const auto painted = paint(BitmapIds::Bomb2, settings);
+    for (int i = 10; i < 14; ++i) {
+        for (const auto& [x, y] : {std::pair{i, 9}, {i, 14}, {9, i}, {14, i}}) {
+            EXPECT_EQ(pixelAt(*painted, x, y), (RGB{255, 255, 255})) << x << ", " << y;
+        }
+        EXPECT_EQ(pixelAt(*painted, i, i), ink);
+    }
+    EXPECT_TRUE(isTransparentAt(*painted, 9, 9)) << "diagonal neighbours do not touch";
+    EXPECT_EQ(pixelAt(*painted, 1, 0), (RGB{255, 255, 255}));
+    EXPECT_EQ(pixelAt(*painted, 0, 1), (RGB{255, 255, 255}));
+    for (int i = 2; i < 32; ++i) {
+        EXPECT_TRUE(isTransparentAt(*painted, i, 0) && isTransparentAt(*painted, 31, i) &&
+                    isTransparentAt(*painted, i, 31))
+            << i;
+    }
+}
+
+TEST_F(RecolourOnDisplay, BatchesKeepShadedAndPlainDrawsApart) {
+    loadPlainImage(bitmapIndex(BitmapIds::Bomb1), {0, 0, 0});
+    const BitmapWrapper canvas(96, 32, true);
+    clearTo(canvas, clearPixel);
+    RecolourSettings settings;
+    settings.baseCol = toColour({0, 0, 0});
+    settings.newCol = toColour({255, 0, 255});
+    {
+        const DrawingBatch batch(canvas);
+        drawId(canvas, BitmapIds::Bomb1, 0, 0);
+        useRecolourShader(settings);
+        drawId(canvas, BitmapIds::Bomb1, 32, 0);
+        stopRecolourShader();
+        drawId(canvas, BitmapIds::Bomb1, 64, 0);
+    }
+    EXPECT_EQ(pixelAt(canvas, 16, 16), (RGB{0, 0, 0}));
+    EXPECT_EQ(pixelAt(canvas, 48, 16), (RGB{255, 0, 255})) << "bombs are recoloured";
+    EXPECT_EQ(pixelAt(canvas, 80, 16), (RGB{0, 0, 0}));
+}
+
+class SpritesOnDisplay : public RecolourOnDisplay {
+  protected:
+    SpritesOnDisplay() {
+        const auto figure = [](int x, int y) {
+            return x >= 8 && x < 24 && y >= 4 && y < 28 ? toColour({192, 192, 192}) : clearPixel;
+        };
+        for (const BitmapIds id : {BitmapIds::Head0_D_014, BitmapIds::Body0_D_1, BitmapIds::Snail}) {
+            writeImage(std::string("images/") + bitmapNames.at(static_cast<unsigned>(id)) + ".png", 32, 32, figure);
+            loadBitmaps(bitmapIndex(id));
+        }
+        key_.look.colour = toColour({0, 0, 200});
+        key_.frame = 1;
+    }
+
+    SpriteKey key_;
+};
+
+TEST_F(SpritesOnDisplay, APlayerIsComposedOnceInItsColour) {
+    const Sprite& sprite = getSprite(key_);
+    EXPECT_EQ(sprite.picture->width(), 32);
+    EXPECT_EQ(sprite.picture->height(), 64);
+    EXPECT_EQ(pixelAt(*sprite.picture, 16, 16), (RGB{0, 0, 200})) << "head";
+    EXPECT_EQ(pixelAt(*sprite.picture, 16, 48), (RGB{0, 0, 200})) << "body";
+    EXPECT_TRUE(isTransparentAt(*sprite.picture, 7, 16));
+    EXPECT_EQ(&getSprite(key_), &sprite);
+
+    key_.look.colour = toColour({0, 200, 0});
+    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 16, 16), (RGB{0, 200, 0}));
+    EXPECT_EQ(pixelAt(*sprite.picture, 16, 16), (RGB{0, 0, 200})) << "the first one stays";
+}
+
+TEST_F(SpritesOnDisplay, AShieldIsAWhiteOutlineThenAWhiteFigure) {
+    key_.flash = 1;
+    const BitmapWrapper& outlined = *getSprite(key_).picture;
+    EXPECT_EQ(pixelAt(outlined, 7, 16), (RGB{255, 255, 255}));
+    EXPECT_EQ(pixelAt(outlined, 16, 28), (RGB{255, 255, 255})) << "closed in each image by itself";
+    EXPECT_EQ(pixelAt(outlined, 16, 16), (RGB{0, 0, 200}));
+
+    key_.flash = 2;
+    const BitmapWrapper& flashing = *getSprite(key_).picture;
+    EXPECT_EQ(pixelAt(flashing, 16, 16), (RGB{255, 255, 255}));
+    EXPECT_TRUE(isTransparentAt(flashing, 7, 16));
+
+    key_.slowed = true;
+    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 16, 16), (RGB{255, 255, 255})) << "a snail too";
+}
+
+TEST_F(SpritesOnDisplay, TheChosenOutlineYieldsToTheShield) {
+    accessibility.outlineEnabled = true;
+    accessibility.outlineCol = {200, 100, 0};
+    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 7, 16), (RGB{200, 100, 0}));
+    key_.flash = 1;
+    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 7, 16), (RGB{255, 255, 255}));
+    key_.flash = 0;
+    key_.slowed = true;
+    const BitmapWrapper& snail = *getSprite(key_).picture;
+    EXPECT_EQ(pixelAt(snail, 7, 16), (RGB{200, 100, 0}));
+    EXPECT_EQ(pixelAt(snail, 16, 16), (RGB{192, 192, 192})) << "keeps its own colours";
+}
+
+class ShaderFailureOnDisplay : public DrawingOnDisplay {
+  protected:
+    static std::string failure() {
+        try {
+            createRecolourShader();
+        } catch (const std::runtime_error& error) {
+            return error.what();
+        }
+        return "none";
+    }
+};
+
+TEST_F(ShaderFailureOnDisplay, SaysWhatIsMissingOrBroken) {
+    std::filesystem::remove("shaders");
+    EXPECT_EQ(failure().rfind("al_attach_shader_source_file failed: ", 0), 0U);
+
+    std::filesystem::create_directory("shaders");
+    std::ofstream("shaders/vertex.glsl") << "void main() { gl_Position = vec4(0.0); }";
+    std::ofstream("shaders/pixel_recolour.glsl") << "no shader";
+    EXPECT_EQ(failure().rfind("al_", 0), 0U);
+    EXPECT_NE(failure().find(" failed: "), std::string::npos);
+    EXPECT_GT(failure().size(), std::string("al_attach_shader_source_file failed: ").size())
+        << "with the compiler's log";
+}
+
+}  // namespace
+}  // namespace vandrel
