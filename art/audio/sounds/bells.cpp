@@ -10,23 +10,24 @@ namespace vandrel {
 
 namespace {
 
-// Two bright notes a fourth apart. The second is the longer one; both are over before the next coin falls at 20 a second, as
-// far as the ear is concerned.
+// Two bright notes a fourth apart. The second is the longer one; both are over before the next coin falls at 20 a
+// second, as far as the ear is concerned.
 Signal coin() {
     constexpr std::array<Partial, 3> metal{{{1.0, 0.9, 0.03}, {2.0, 0.35, 0.018}, {3.01, 0.18, 0.01}}};
     Signal result = silence(0.18);
     add(result, shaped(struckPartials(0.055, 1975.5, metal, 0.0008), line(0.055, {{0.045, 1.0}, {0.055, 0.0}})), 0.75);
     add(result, struckPartials(0.13, 2637.0, metal, 0.0008), 1.0, 0.05);
-    return finished(result, 0.18, soundPeak, 0.03);
+    return finished(result, 0.18, soundPeak, 0.055);
 }
 
-// A counter bell of few partials. It is also heard an octave down and at three times the pitch, so it is built round 1,318
-// hertz: 659 and 3,955 are still a bell, and the highest partial stays audible at three times.
+// A counter bell of few partials. It is also heard an octave down and at three times the pitch, so it is built round
+// 1,318 hertz: 659 and 3,955 are still a bell, and the highest partial stays audible at three times.
 Signal ding() {
     constexpr std::array<Partial, 5> cup{
         {{1.0, 0.8, 0.11}, {1.006, 0.35, 0.1}, {2.01, 0.3, 0.07}, {2.74, 0.4, 0.045}, {4.16, 0.16, 0.02}}};
     Signal result = struckPartials(0.6, 1318.5, cup, 0.0006);
-    add(result, shaped(resonantFilter(Pass::Band, noise(0.012, 41), 3600.0, 2.0), struckLevel(0.012, 0.0004, 0.003)), 0.5);
+    add(result, shaped(resonantFilter(Pass::Band, noise(0.012, 41), 3600.0, 2.0), struckLevel(0.012, 0.0004, 0.003)),
+        0.5);
     return finished(result, 0.6, soundPeak, 0.08);
 }
 
@@ -41,13 +42,16 @@ Signal gong() {
                                           {2.63, 0.2, 0.3},
                                           {3.39, 0.22, 0.24},
                                           {3.98, 0.16, 0.2}}};
-    constexpr std::array<Partial, 7> high{{{4.61, 0.16, 0.26},
-                                           {4.655, 0.12, 0.25},
-                                           {5.77, 0.12, 0.2},
-                                           {5.83, 0.1, 0.2},
-                                           {7.09, 0.08, 0.15},
-                                           {8.93, 0.06, 0.11},
-                                           {11.4, 0.04, 0.07}}};
+    constexpr std::array<Partial, 10> high{{{4.61, 0.26, 0.26},
+                                            {4.655, 0.2, 0.25},
+                                            {5.77, 0.2, 0.2},
+                                            {5.83, 0.17, 0.2},
+                                            {7.09, 0.15, 0.16},
+                                            {8.93, 0.13, 0.13},
+                                            {11.4, 0.11, 0.11},
+                                            {14.2, 0.09, 0.09},
+                                            {17.7, 0.07, 0.075},
+                                            {23.1, 0.05, 0.06}}};
     constexpr double seconds = 2.2;
     constexpr double ground = 174.6;
     Signal result = struckPartials(seconds, ground, low, 0.004);
@@ -62,6 +66,8 @@ constexpr std::array<Sound, 3> sounds{{{"Cash2", coin}, {"CrapDing", ding}, {"Go
 
 }  // namespace
 
-std::span<const Sound> bellSounds() { return sounds; }
+std::span<const Sound> bellSounds() {
+    return sounds;
+}
 
 }  // namespace vandrel

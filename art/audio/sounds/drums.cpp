@@ -16,8 +16,9 @@ Signal tom(double hertz, std::uint32_t seed) {
     const Signal pitch = glide(seconds, {{0.0, hertz * 1.9}, {0.03, hertz * 1.15}, {0.25, hertz}});
     Signal result = shaped(oscillate(Wave::Sine, pitch), struckLevel(seconds, 0.001, 0.075));
     const Signal overtone = glide(seconds, {{0.0, hertz * 2.9}, {0.05, hertz * 2.1}});
-    add(result, shaped(oscillate(Wave::Sine, overtone), struckLevel(seconds, 0.001, 0.028)), 0.35);
-    add(result, shaped(resonantFilter(Pass::Band, noise(0.06, seed), 1800.0, 0.8), struckLevel(0.06, 0.0005, 0.009)), 0.5);
+    add(result, shaped(oscillate(Wave::Sine, overtone), struckLevel(seconds, 0.001, 0.034)), 0.5);
+    add(result, shaped(resonantFilter(Pass::Band, noise(0.06, seed), 1800.0, 0.8), struckLevel(0.06, 0.0005, 0.011)),
+        1.0);
     return result;
 }
 
@@ -25,15 +26,15 @@ Signal tom(double hertz, std::uint32_t seed) {
 Signal fourBeats() {
     constexpr double seconds = 1.769;
     constexpr double beat = seconds / 4.0;
-    constexpr std::array<double, 4> pitches{82.4, 98.0, 123.5, 164.8};
+    constexpr std::array<double, 4> pitches{98.0, 123.5, 146.8, 196.0};
     Signal result = silence(seconds);
     for (std::size_t i = 0; i < pitches.size(); ++i) {
         const double place = static_cast<double>(i);
         add(result, tom(pitches[i], 11 + static_cast<std::uint32_t>(i)), 0.7 + 0.1 * place, beat * place);
     }
     // A light pick-up in front of the third and the fourth, so that the row leads somewhere.
-    add(result, tom(110.0, 23), 0.28, beat * 1.75);
-    add(result, tom(146.8, 24), 0.34, beat * 2.75);
+    add(result, tom(123.5, 23), 0.28, beat * 1.75);
+    add(result, tom(164.8, 24), 0.34, beat * 2.75);
     return finished(softClipped(withRoom(result, 0.09, 3000.0, 0.25), 0.9), seconds, soundPeak, 0.06);
 }
 
@@ -49,8 +50,8 @@ Signal bassHit() {
     return finished(softClipped(result, 1.1), seconds, soundPeak, 0.08);
 }
 
-// A thump that falls from 150 to 38 hertz under a rumbling tail. Little treble, since dozens follow each other; the crack at
-// the front is what is heard of it on small speakers.
+// A thump that falls from 150 to 38 hertz under a rumbling tail. Little treble, since dozens follow each other; the
+// crack at the front is what is heard of it on small speakers.
 Signal explosion() {
     constexpr double seconds = 0.9;
     const Signal fall = glide(seconds, {{0.0, 150.0}, {0.05, 86.0}, {0.2, 50.0}, {seconds, 38.0}});
@@ -72,6 +73,8 @@ constexpr std::array<Sound, 3> sounds{{{"Beat2", fourBeats}, {"HitBass", bassHit
 
 }  // namespace
 
-std::span<const Sound> drumSounds() { return sounds; }
+std::span<const Sound> drumSounds() {
+    return sounds;
+}
 
 }  // namespace vandrel

@@ -57,6 +57,8 @@ constexpr std::array<Sound, 2> sounds{{{"Strength", strength}, {"Pickup_Anh", an
 
 }  // namespace
 
-std::span<const Sound> powerSounds() { return sounds; }
+std::span<const Sound> powerSounds() {
+    return sounds;
+}
 
 }  // namespace vandrel

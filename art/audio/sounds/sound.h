@@ -1,5 +1,5 @@
-// The 18 sounds of the game. Each family is a file of recipes of its own and a program of its own, so that a changed recipe
-// makes only its family's files anew.
+// The 18 sounds of the game. Each family is a file of recipes of its own and a program of its own, so that a changed
+// recipe makes only its family's files anew.
 #pragma once
 
 #include <span>
@@ -9,8 +9,8 @@
 namespace vandrel {
 
 struct Sound {
-    const char* name;     // of the file, without ".wav"
-    Signal (*make)();     // finished, ready to be written
+    const char* name;  // of the file, without ".wav"
+    Signal (*make)();  // finished, ready to be written
 };
 
 // The usual peak, and that of the pickups that are played at full volume and must not top the explosions.

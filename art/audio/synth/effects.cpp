@@ -12,7 +12,9 @@ namespace {
 
 constexpr int loopPasses = 2;  // the first fills the lines, the second is kept
 
-double share(double hertz) { return 1.0 - std::exp(-2.0 * 3.14159265358979 * hertz / sampleRate); }
+double share(double hertz) {
+    return 1.0 - std::exp(-2.0 * 3.14159265358979 * hertz / sampleRate);
+}
 
 class DelayLine {
   public:

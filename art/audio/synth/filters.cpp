@@ -11,7 +11,9 @@ namespace {
 constexpr double pi = std::numbers::pi;
 constexpr std::size_t controlFrames = 16;  // a moving cutoff is looked at this often
 
-double onePoleShare(double hertz) { return 1.0 - std::exp(-2.0 * pi * hertz / sampleRate); }
+double onePoleShare(double hertz) {
+    return 1.0 - std::exp(-2.0 * pi * hertz / sampleRate);
+}
 
 }  // namespace
 
@@ -56,7 +58,9 @@ Signal resonantFilter(Pass pass, const Signal& source, const Signal& cutoff, dou
         const double low = secondState + a2 * firstState + a3 * input;
         firstState = 2.0 * band - firstState;
         secondState = 2.0 * low - secondState;
-        result[frame] = pass == Pass::Low ? low : pass == Pass::Band ? band * damping : source[frame] - damping * band - low;
+        result[frame] = pass == Pass::Low    ? low
+                        : pass == Pass::Band ? band * damping
+                                             : source[frame] - damping * band - low;
     }
     return result;
 }
@@ -70,8 +74,8 @@ Biquad Biquad::highShelf(double hertz, double decibels, double quality) {
     const double high = std::pow(10.0, decibels / 20.0);
     const double band = std::pow(high, 0.499666774155);
     const double a0 = 1.0 + k / quality + k * k;
-    return {(high + band * k / quality + k * k) / a0, 2.0 * (k * k - high) / a0, (high - band * k / quality + k * k) / a0,
-            2.0 * (k * k - 1.0) / a0, (1.0 - k / quality + k * k) / a0};
+    return {(high + band * k / quality + k * k) / a0, 2.0 * (k * k - high) / a0,
+            (high - band * k / quality + k * k) / a0, 2.0 * (k * k - 1.0) / a0, (1.0 - k / quality + k * k) / a0};
 }
 
 Biquad Biquad::lowShelf(double hertz, double decibels, double quality) {

@@ -12,12 +12,13 @@ Signal gentleHighPass(Signal source, double hertz);
 
 enum class Pass { Low, Band, High };
 
-// Twelve decibels an octave round a moving cutoff. `resonance` is the quality: 0.7 is flat, 5 whistles. The filter lasts as
-// long as the shorter of the two signals.
+// Twelve decibels an octave round a moving cutoff. `resonance` is the quality: 0.7 is flat, 5 whistles. The filter
+// lasts as long as the shorter of the two signals.
 Signal resonantFilter(Pass pass, const Signal& source, const Signal& cutoff, double resonance);
 Signal resonantFilter(Pass pass, const Signal& source, double cutoff, double resonance);
 
-// A second-order section; the coefficients are those of the transfer function with the leading one of the denominator 1.
+// A second-order section; the coefficients are those of the transfer function with the leading one of the
+// denominator 1.
 class Biquad {
   public:
     Biquad(double b0, double b1, double b2, double a1, double a2) : b0_(b0), b1_(b1), b2_(b2), a1_(a1), a2_(a2) {}

@@ -122,7 +122,8 @@ Signal struckPartials(double seconds, double hertz, std::span<const Partial> par
 
 Signal pluckedString(double seconds, double hertz, double brightness, double halfLife, std::uint32_t seed) {
     const double period = sampleRate / hertz;
-    // The averaging filter in the loop delays by half a frame; an all-pass takes up the rest, so that the string is in tune.
+    // The averaging filter in the loop delays by half a frame; an all-pass takes up the rest, so that the string is in
+    // tune.
     const double wanted = period - 0.5;
     auto length = static_cast<std::size_t>(wanted);
     double rest = wanted - static_cast<double>(length);
@@ -137,10 +138,13 @@ Signal pluckedString(double seconds, double hertz, double brightness, double hal
     NoiseSource source(seed);
     double smooth = 0.0;
     double mean = 0.0;
-    for (double& value : string) {
-        smooth += (source.next() - smooth) * (0.08 + 0.92 * brightness * brightness);
-        value = smooth;
-        mean += value / static_cast<double>(length);
+    for (std::size_t i = 0; i < length; ++i) {
+        // Pulled aside a fifth of the way along, by a finger that is not quite smooth.
+        const double along = static_cast<double>(i) / static_cast<double>(length);
+        const double pulled = along < 0.2 ? along / 0.2 : (1.0 - along) / 0.8;
+        smooth += (pulled + 0.35 * source.next() - smooth) * (0.08 + 0.92 * brightness * brightness);
+        string[i] = smooth;
+        mean += smooth / static_cast<double>(length);
     }
     double peak = 1e-9;
     for (double& value : string) {

@@ -11,7 +11,8 @@ namespace vandrel {
 
 enum class Wave { Sine, Triangle, Saw, Square };
 
-// A wave that follows `hertz`, as long as it. Saw and square are smoothed at their steps, so that high notes don't ring false.
+// A wave that follows `hertz`, as long as it. Saw and square are smoothed at their steps, so that high notes don't ring
+// false.
 Signal oscillate(Wave wave, const Signal& hertz, double startPhase = 0.0);
 
 // A square wave whose upper part takes `width` (0 to 1) of the period.
@@ -32,7 +33,8 @@ struct Partial {
 // A bar, bell or gong: sines that die away each by itself. `attack` in seconds. Partials beyond 18,000 Hz are left out.
 Signal struckPartials(double seconds, double hertz, std::span<const Partial> partials, double attack = 0.001);
 
-// A plucked string. `brightness` (0 to 1) is how hard the nail is, `halfLife` how long the ground note takes to lose half.
+// A plucked string. `brightness` (0 to 1) is how hard the nail is, `halfLife` how long the ground note takes to lose
+// half.
 Signal pluckedString(double seconds, double hertz, double brightness, double halfLife, std::uint32_t seed);
 
 // `hertz` wavering `rate` times a second by `semitones` each way, fading in over `delay` seconds.

@@ -32,14 +32,21 @@ Signal throughPoints(double seconds, std::initializer_list<CurvePoint> points, B
 
 }  // namespace
 
-std::size_t framesIn(double seconds) { return static_cast<std::size_t>(std::llround(seconds * sampleRate)); }
+std::size_t framesIn(double seconds) {
+    return static_cast<std::size_t>(std::llround(seconds * sampleRate));
+}
 
-double gainOf(double decibels) { return std::pow(10.0, decibels / 20.0); }
+double gainOf(double decibels) {
+    return std::pow(10.0, decibels / 20.0);
+}
 
-Signal silence(double seconds) { return Signal(framesIn(seconds), 0.0); }
+Signal silence(double seconds) {
+    return Signal(framesIn(seconds), 0.0);
+}
 
 Signal line(double seconds, std::initializer_list<CurvePoint> points) {
-    return throughPoints(seconds, points, [](double from, double to, double along) { return from + (to - from) * along; });
+    return throughPoints(seconds, points,
+                         [](double from, double to, double along) { return from + (to - from) * along; });
 }
 
 Signal glide(double seconds, std::initializer_list<CurvePoint> points) {
@@ -47,7 +54,9 @@ Signal glide(double seconds, std::initializer_list<CurvePoint> points) {
                          [](double from, double to, double along) { return from * std::pow(to / from, along); });
 }
 
-Signal steady(double seconds, double value) { return Signal(framesIn(seconds), value); }
+Signal steady(double seconds, double value) {
+    return Signal(framesIn(seconds), value);
+}
 
 Signal struckLevel(double seconds, double attack, double halfLife) {
     Signal result(framesIn(seconds));

@@ -1,5 +1,5 @@
-// A mono stretch of sound as plain numbers, with the few operations from which every sound recipe and every instrument is
-// built. Full scale is -1 to 1; nothing clips before a file is written. Used by everything under audio/.
+// A mono stretch of sound as plain numbers, with the few operations from which every sound recipe and every instrument
+// is built. Full scale is -1 to 1; nothing clips before a file is written. Used by everything under audio/.
 #pragma once
 
 #include <cstddef>
@@ -30,9 +30,9 @@ double gainOf(double decibels);
 
 Signal silence(double seconds);
 
-// A control signal of `seconds` through the points, which must rise in time; before the first and after the last point the
-// value stands still. `line` goes straight from point to point; `glide` by equal ratios, as pitch and loudness are heard, and
-// so needs values above 0.
+// A control signal of `seconds` through the points, which must rise in time; before the first and after the last point
+// the value stands still. `line` goes straight from point to point; `glide` by equal ratios, as pitch and loudness are
+// heard, and so needs values above 0.
 Signal line(double seconds, std::initializer_list<CurvePoint> points);
 Signal glide(double seconds, std::initializer_list<CurvePoint> points);
 
@@ -52,8 +52,8 @@ Signal scaled(Signal source, double factor);
 
 double peakOf(const Signal& signal);
 
-// Ready for a file: no direct current, exactly `seconds` long, edges eased (a quarter of a millisecond in, `fadeOut` seconds
-// out) and the peak at `peakDecibels` below full scale.
+// Ready for a file: no direct current, exactly `seconds` long, edges eased (a quarter of a millisecond in, `fadeOut`
+// seconds out) and the peak at `peakDecibels` below full scale.
 Signal finished(Signal signal, double seconds, double peakDecibels, double fadeOut = 0.02);
 
 }  // namespace vandrel

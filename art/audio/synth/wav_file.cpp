@@ -88,7 +88,8 @@ Signal readMonoWav(const std::filesystem::path& path) {
     const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     const auto frames = bytes.size() < headerSize ? 0 : (bytes.size() - headerSize) / 2;
     if (frames == 0 || bytes.compare(0, headerSize, header(static_cast<std::uint32_t>(frames), 1)) != 0) {
-        throw std::runtime_error(fmt::format("{} is not a mono WAV file of 16 bits and 44,100 frames a second", path.string()));
+        throw std::runtime_error(
+            fmt::format("{} is not a mono WAV file of 16 bits and 44,100 frames a second", path.string()));
     }
     Signal result(frames);
     for (std::size_t frame = 0; frame < frames; ++frame) {

@@ -7,8 +7,8 @@
 
 namespace vandrel {
 
-// Writes `signal` at 44,100 frames a second, rounded to the nearest of 65,536 steps; beyond full scale is clipped. Folders
-// are made as needed. Throws std::runtime_error with the path when the file cannot be written.
+// Writes `signal` at 44,100 frames a second, rounded to the nearest of 65,536 steps; beyond full scale is clipped.
+// Folders are made as needed. Throws std::runtime_error with the path when the file cannot be written.
 void writeWav(const std::filesystem::path& path, const Signal& signal);
 void writeWav(const std::filesystem::path& path, const StereoSignal& signal);
 

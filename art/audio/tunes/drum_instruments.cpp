@@ -13,7 +13,8 @@ namespace {
 
 // Noise through a band, struck: the half of every drum.
 Signal hiss(double seconds, double hertz, double resonance, double halfLife, std::uint32_t seed) {
-    return shaped(resonantFilter(Pass::Band, noise(seconds, seed), hertz, resonance), struckLevel(seconds, 0.0006, halfLife));
+    return shaped(resonantFilter(Pass::Band, noise(seconds, seed), hertz, resonance),
+                  struckLevel(seconds, 0.0006, halfLife));
 }
 
 Signal kickDrum(double top, double ground, double halfLife, const Tone& tone) {
@@ -24,9 +25,13 @@ Signal kickDrum(double top, double ground, double halfLife, const Tone& tone) {
     return softClipped(std::move(result), 1.3);
 }
 
-Signal kick(const Tone& tone) { return kickDrum(330.0, 52.0, 0.07, tone); }
+Signal kick(const Tone& tone) {
+    return kickDrum(330.0, 52.0, 0.07, tone);
+}
 
-Signal softKick(const Tone& tone) { return gentleLowPass(kickDrum(170.0, 48.0, 0.06, tone), 900.0); }
+Signal softKick(const Tone& tone) {
+    return gentleLowPass(kickDrum(170.0, 48.0, 0.06, tone), 900.0);
+}
 
 Signal snare(const Tone& tone) {
     constexpr double seconds = 0.32;
@@ -54,16 +59,16 @@ Signal clap(const Tone& tone) {
         const double halfLife = i + 1 == hands.size() ? 0.034 : 0.0045;
         add(result, hiss(0.27, 1250.0 + 180.0 * static_cast<double>(i), 0.9, halfLife, seed), 0.9, hands[i]);
     }
-    return gentleHighPass(std::move(result), 450.0);
+    return scaled(gentleHighPass(std::move(result), 450.0), 1.6);
 }
 
 Signal hat(const Tone& tone) {
     const double halfLife = 0.008 + 0.012 * tone.force;
-    return scaled(gentleHighPass(hiss(0.12, 8800.0, 0.6, halfLife, 871 + tone.take), 5500.0), 0.9);
+    return scaled(gentleHighPass(hiss(0.12, 8800.0, 0.6, halfLife, 871 + tone.take), 5500.0), 2.0);
 }
 
 Signal openHat(const Tone& tone) {
-    return scaled(gentleHighPass(hiss(0.4, 8200.0, 0.6, 0.075, 881 + tone.take), 5000.0), 0.8);
+    return scaled(gentleHighPass(hiss(0.4, 8200.0, 0.6, 0.075, 881 + tone.take), 5000.0), 1.8);
 }
 
 Signal shaker(const Tone& tone) {
@@ -73,8 +78,9 @@ Signal shaker(const Tone& tone) {
 }
 
 Signal tambourine(const Tone& tone) {
-    constexpr std::array<Partial, 5> jingles{{{1.0, 0.3, 0.035}, {1.17, 0.3, 0.03}, {1.43, 0.25, 0.03}, {1.61, 0.2, 0.025}, {1.93, 0.2, 0.02}}};
-    Signal result = struckPartials(0.25, 5100.0, jingles, 0.002);
+    constexpr std::array<Partial, 5> jingles{
+        {{1.0, 0.16, 0.016}, {1.17, 0.16, 0.014}, {1.43, 0.14, 0.014}, {1.61, 0.1, 0.012}, {1.93, 0.1, 0.01}}};
+    Signal result = struckPartials(0.25, 5100.0 + 190.0 * static_cast<double>(tone.take), jingles, 0.002);
     add(result, hiss(0.25, 7500.0, 0.8, 0.03, 901 + tone.take), 0.5);
     return scaled(std::move(result), 0.6);
 }
@@ -84,25 +90,38 @@ Signal woodblock(double hertz) {
     return struckPartials(0.15, hertz, block, 0.0005);
 }
 
-Signal highBlock(const Tone&) { return woodblock(1180.0); }
+Signal highBlock(const Tone&) {
+    return woodblock(1180.0);
+}
 
-Signal lowBlock(const Tone&) { return woodblock(820.0); }
+Signal lowBlock(const Tone&) {
+    return woodblock(820.0);
+}
 
 Signal skin(double hertz, double halfLife, const Tone& tone) {
     const double seconds = halfLife * 7.0;
-    const Signal pitch = glide(seconds, {{0.0, hertz * (1.2 + 0.5 * tone.force)}, {0.04, hertz * 1.04}, {seconds, hertz}});
+    const Signal pitch =
+        glide(seconds, {{0.0, hertz * (1.2 + 0.5 * tone.force)}, {0.04, hertz * 1.04}, {seconds, hertz}});
     Signal result = shaped(oscillate(Wave::Sine, pitch), struckLevel(seconds, 0.001, halfLife));
     add(result, hiss(0.05, hertz * 5.0, 0.8, 0.006, 911 + tone.take), 0.4 * tone.force);
     return result;
 }
 
-Signal highConga(const Tone& tone) { return skin(330.0, 0.045, tone); }
+Signal highConga(const Tone& tone) {
+    return skin(330.0, 0.045, tone);
+}
 
-Signal lowConga(const Tone& tone) { return skin(220.0, 0.06, tone); }
+Signal lowConga(const Tone& tone) {
+    return skin(220.0, 0.06, tone);
+}
 
-Signal lowTom(const Tone& tone) { return skin(92.0, 0.11, tone); }
+Signal lowTom(const Tone& tone) {
+    return skin(92.0, 0.11, tone);
+}
 
-Signal highTom(const Tone& tone) { return skin(138.0, 0.09, tone); }
+Signal highTom(const Tone& tone) {
+    return skin(138.0, 0.09, tone);
+}
 
 Signal cowbell(const Tone&) {
     Signal wave = oscillate(Wave::Square, steady(0.3, 562.0));
@@ -125,15 +144,29 @@ Signal swell(const Tone& tone) {
     return shaped(resonantFilter(Pass::Band, noise(seconds, 941 + tone.take), cutoff, 0.8), level);
 }
 
-constexpr std::array<Instrument, 18> instruments{{{"kick", kick},         {"softkick", softKick}, {"snare", snare},
-                                                  {"rim", rim},           {"clap", clap},         {"hat", hat},
-                                                  {"openhat", openHat},   {"shaker", shaker},     {"tambourine", tambourine},
-                                                  {"highblock", highBlock}, {"lowblock", lowBlock}, {"highconga", highConga},
-                                                  {"lowconga", lowConga}, {"lowtom", lowTom},     {"hightom", highTom},
-                                                  {"cowbell", cowbell},   {"cymbal", cymbal},     {"swell", swell}}};
+constexpr std::array<Instrument, 18> instruments{{{"kick", kick},
+                                                  {"softkick", softKick},
+                                                  {"snare", snare},
+                                                  {"rim", rim},
+                                                  {"clap", clap},
+                                                  {"hat", hat},
+                                                  {"openhat", openHat},
+                                                  {"shaker", shaker},
+                                                  {"tambourine", tambourine},
+                                                  {"highblock", highBlock},
+                                                  {"lowblock", lowBlock},
+                                                  {"highconga", highConga},
+                                                  {"lowconga", lowConga},
+                                                  {"lowtom", lowTom},
+                                                  {"hightom", highTom},
+                                                  {"cowbell", cowbell},
+                                                  {"cymbal", cymbal},
+                                                  {"swell", swell}}};
 
 }  // namespace
 
-std::span<const Instrument> drumInstruments() { return instruments; }
+std::span<const Instrument> drumInstruments() {
+    return instruments;
+}
 
 }  // namespace vandrel

@@ -74,7 +74,9 @@ std::optional<int> pitchNamed(std::string_view name) {
     return *root + 12 * (name.front() - '0' + 1);
 }
 
-double hertzOf(double pitch) { return 440.0 * std::exp2((pitch - 69.0) / 12.0); }
+double hertzOf(double pitch) {
+    return 440.0 * std::exp2((pitch - 69.0) / 12.0);
+}
 
 std::optional<int> Chord::degree(int number) const {
     const auto within = [this](int low, int high) -> std::optional<int> {
@@ -128,7 +130,8 @@ std::optional<Chord> chordNamed(std::string_view symbol) {
     }
     for (const ChordKind& kind : chordKinds) {
         if (kind.symbol == symbol) {
-            chord.intervals.assign(kind.intervals.begin(), kind.intervals.begin() + static_cast<std::ptrdiff_t>(kind.count));
+            chord.intervals.assign(kind.intervals.begin(),
+                                   kind.intervals.begin() + static_cast<std::ptrdiff_t>(kind.count));
             return chord;
         }
     }

@@ -15,14 +15,17 @@ namespace {
 // Rise, stay, and fall after the note is released; `seconds` is the whole.
 Signal heldLevel(double seconds, double attack, double held, double release, double sustain) {
     const double top = std::min(attack, held * 0.8);
-    return line(seconds, {{0.0, 0.0}, {top, 1.0}, {std::max(top + 0.001, held), sustain}, {std::max(top + 0.001, held) + release, 0.0}});
+    return line(
+        seconds,
+        {{0.0, 0.0}, {top, 1.0}, {std::max(top + 0.001, held), sustain}, {std::max(top + 0.001, held) + release, 0.0}});
 }
 
 // The pitch of a wind or a voice: slides when asked to, else scoops a little, and wavers once it is held.
 Signal livingPitch(const Tone& tone, double seconds, double scoop, double waver) {
     const double from = tone.slideFrom > 0.0 ? tone.slideFrom : tone.hertz * scoop;
     const double time = tone.slideFrom > 0.0 ? 0.08 : 0.03;
-    return vibrato(glide(seconds, {{0.0, from}, {time, tone.hertz}}), 5.3 + 0.2 * static_cast<double>(tone.take), waver, 0.4);
+    return vibrato(glide(seconds, {{0.0, from}, {time, tone.hertz}}), 5.3 + 0.2 * static_cast<double>(tone.take), waver,
+                   0.4);
 }
 
 // A clay flute: nearly a sine, some breath.
@@ -54,7 +57,8 @@ Signal brass(const Tone& tone) {
     add(wave, oscillate(Wave::Saw, scaled(pitch, 1.0042), 0.4), 0.8);
     add(wave, oscillate(Wave::Saw, scaled(pitch, 0.9961), 0.7), 0.8);
     const double open = 700.0 + 3600.0 * tone.force * tone.force;
-    const Signal cutoff = glide(seconds, {{0.0, 350.0}, {0.035, open}, {0.14, open * 0.62}, {std::max(0.2, tone.seconds), open * 0.5}});
+    const Signal cutoff =
+        glide(seconds, {{0.0, 350.0}, {0.035, open}, {0.14, open * 0.62}, {std::max(0.2, tone.seconds), open * 0.5}});
     Signal result = resonantFilter(Pass::Low, wave, cutoff, 0.95);
     return scaled(shaped(std::move(result), heldLevel(seconds, 0.02, tone.seconds, 0.085, 0.75)), 0.38);
 }
@@ -64,14 +68,19 @@ Signal organ(const Tone& tone) {
     const double seconds = tone.seconds + 0.03;
     const Signal pitch = vibrato(steady(seconds, tone.hertz), 6.4, 0.1);
     Signal result = silence(seconds);
-    constexpr std::array<std::array<double, 2>, 5> bars{{{0.5, 0.35}, {1.0, 0.6}, {1.5, 0.3}, {2.0, 0.35}, {4.0, 0.16}}};
+    constexpr std::array<std::array<double, 2>, 5> bars{
+        {{0.5, 0.35}, {1.0, 0.6}, {1.5, 0.3}, {2.0, 0.35}, {4.0, 0.16}}};
     for (const auto& bar : bars) {
         if (tone.hertz * bar[0] < 8000.0) {
             add(result, oscillate(Wave::Sine, scaled(pitch, bar[0])), bar[1]);
         }
     }
-    add(result, shaped(resonantFilter(Pass::Band, noise(0.01, 601 + tone.take), 2400.0, 1.0), struckLevel(0.01, 0.0005, 0.002)), 0.3);
-    return scaled(shaped(softClipped(std::move(result), 1.0 + tone.force), heldLevel(seconds, 0.006, tone.seconds, 0.03, 0.95)), 0.5);
+    add(result,
+        shaped(resonantFilter(Pass::Band, noise(0.01, 601 + tone.take), 2400.0, 1.0), struckLevel(0.01, 0.0005, 0.002)),
+        0.3);
+    return scaled(
+        shaped(softClipped(std::move(result), 1.0 + tone.force), heldLevel(seconds, 0.006, tone.seconds, 0.03, 0.95)),
+        0.5);
 }
 
 // A slow sky of saws.
@@ -99,7 +108,8 @@ Signal squareLead(const Tone& tone) {
 // Breathy voices without words, far away; for long notes.
 Signal choir(const Tone& tone) {
     const double seconds = tone.seconds + 0.4;
-    const Signal pitch = vibrato(steady(seconds, tone.hertz * (1.0 + 0.0012 * static_cast<double>(tone.take))), 4.7, 0.16, 0.5);
+    const Signal pitch =
+        vibrato(steady(seconds, tone.hertz * (1.0 + 0.0012 * static_cast<double>(tone.take))), 4.7, 0.16, 0.5);
     Signal wave = oscillate(Wave::Saw, pitch, 0.2);
     add(wave, oscillate(Wave::Saw, scaled(pitch, 1.005), 0.6));
     add(wave, noise(seconds, 701 + tone.take), 0.12);
@@ -119,6 +129,8 @@ constexpr std::array<Instrument, 7> instruments{{{"ocarina", ocarina},
 
 }  // namespace
 
-std::span<const Instrument> heldInstruments() { return instruments; }
+std::span<const Instrument> heldInstruments() {
+    return instruments;
+}
 
 }  // namespace vandrel

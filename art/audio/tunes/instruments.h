@@ -11,11 +11,11 @@ namespace vandrel {
 
 // What is asked of an instrument for one note.
 struct Tone {
-    double hertz = 440.0;     // drums have a pitch of their own and do not look
-    double slideFrom = 0.0;   // hertz; 0 for a note that starts where it is
-    double seconds = 0.5;     // how long it is held; it may ring on
-    double force = 0.7;       // 0 to 1, soft to hard: how bright the note is. How loud it is, is the renderer's business
-    std::uint32_t take = 0;   // another take of the same note differs by a little, as from a hand
+    double hertz = 440.0;    // drums have a pitch of their own and do not look
+    double slideFrom = 0.0;  // hertz; 0 for a note that starts where it is
+    double seconds = 0.5;    // how long it is held; it may ring on
+    double force = 0.7;      // 0 to 1, soft to hard: how bright the note is. How loud it is, is the renderer's business
+    std::uint32_t take = 0;  // another take of the same note differs by a little, as from a hand
 };
 
 struct Instrument {

@@ -25,7 +25,9 @@ std::vector<double> weightedEnergy(const Signal& channel) {
     return result;
 }
 
-double loudnessOf(double meanSquare) { return -0.691 + 10.0 * std::log10(meanSquare); }
+double loudnessOf(double meanSquare) {
+    return -0.691 + 10.0 * std::log10(meanSquare);
+}
 
 // The mean of the blocks that are louder than `gate`.
 double gatedMean(const std::vector<double>& blocks, double gate) {

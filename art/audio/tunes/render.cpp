@@ -82,8 +82,9 @@ class Player {
                                     .take = take};
                     found = played.emplace(key, instrument.play(tone)).first;
                 }
-                const double pan = voice.wide > 0.0 ? std::clamp(voice.pan + (side == 0 ? -voice.wide : voice.wide), -1.0, 1.0)
-                                                    : voice.pan;
+                const double pan = voice.wide > 0.0
+                                       ? std::clamp(voice.pan + (side == 0 ? -voice.wide : voice.wide), -1.0, 1.0)
+                                       : voice.pan;
                 mix(found->second, start + late, voice.wide > 0.0 ? gain * 0.75 : gain, pan, voice);
             }
             ++count;
@@ -182,7 +183,8 @@ StereoSignal renderScore(const Score& score) {
     add(desk.dry.left, room.left);
     add(desk.dry.right, room.right);
     const double beat = 60.0 / score.tempo;
-    const StereoSignal echo = loopedPingPong(gentleHighPass(desk.echo, 250.0), score.echoBeats * beat, score.echoFeedback);
+    const StereoSignal echo =
+        loopedPingPong(gentleHighPass(desk.echo, 250.0), score.echoBeats * beat, score.echoFeedback);
     add(desk.dry.left, echo.left);
     add(desk.dry.right, echo.right);
     master(desk.dry, score.loudness);

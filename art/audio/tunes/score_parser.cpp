@@ -113,8 +113,8 @@ class ScoreParser {
             throw ScoreError(line_, fmt::format("there is no instrument \"{}\"", voice.instrument));
         }
         const std::map<std::string, std::pair<double*, double>> settings{
-            {"gain", {&voice.decibels, 1.0}}, {"pan", {&voice.pan, 0.01}},      {"room", {&voice.room, 0.01}},
-            {"echo", {&voice.echo, 0.01}},    {"wide", {&voice.wide, 0.01}},    {"loose", {&voice.loose, 0.001}},
+            {"gain", {&voice.decibels, 1.0}}, {"pan", {&voice.pan, 0.01}},   {"room", {&voice.room, 0.01}},
+            {"echo", {&voice.echo, 0.01}},    {"wide", {&voice.wide, 0.01}}, {"loose", {&voice.loose, 0.001}},
             {"duck", {&voice.duck, 1.0}}};
         for (std::size_t i = 3; i < words.size(); i += 2) {
             if (words[i] == "low") {
@@ -245,7 +245,8 @@ class ScoreParser {
         }
     }
 
-    void unfoldLine(ScoreVoice& voice, const Part& part, const std::vector<Bar>& bars, const std::vector<PlacedChord>& chords) {
+    void unfoldLine(ScoreVoice& voice, const Part& part, const std::vector<Bar>& bars,
+                    const std::vector<PlacedChord>& chords) {
         checkFill(bars, part.bars);
         std::vector<ScoreNote> notes;
         for (int bar = 0; bar < part.bars; ++bar) {
@@ -289,11 +290,16 @@ class ScoreParser {
 
 }  // namespace
 
-ScoreError::ScoreError(int line, const std::string& what) : std::runtime_error(fmt::format("line {}: {}", line, what)) {}
+ScoreError::ScoreError(int line, const std::string& what)
+    : std::runtime_error(fmt::format("line {}: {}", line, what)) {}
 
-std::size_t Score::frames() const { return framesIn(bars * beats * 60.0 / tempo); }
+std::size_t Score::frames() const {
+    return framesIn(bars * beats * 60.0 / tempo);
+}
 
-Score parseScore(std::string_view text) { return ScoreParser().parse(text); }
+Score parseScore(std::string_view text) {
+    return ScoreParser().parse(text);
+}
 
 Score readScore(const std::filesystem::path& path) {
     std::ifstream file(path);

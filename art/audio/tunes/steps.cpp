@@ -51,7 +51,8 @@ class BarReader {
                     throw ScoreError(line_, "a group is not closed");
                 }
             } else if (!voice_.drum) {
-                while (end < text.size() && text[end] != '[' && std::isspace(static_cast<unsigned char>(text[end])) == 0) {
+                while (end < text.size() && text[end] != '[' &&
+                       std::isspace(static_cast<unsigned char>(text[end])) == 0) {
                     ++end;
                 }
             }
@@ -86,7 +87,8 @@ class BarReader {
         ScoreNote note{.start = place, .length = length};
         bool slides = false;
         std::string_view names = step;
-        for (; !names.empty() && std::string_view("!?^/").find(names.back()) != std::string_view::npos; names.remove_suffix(1)) {
+        for (; !names.empty() && std::string_view("!?^/").find(names.back()) != std::string_view::npos;
+             names.remove_suffix(1)) {
             switch (names.back()) {
                 case '!':
                     note.force = Force::Accent;

@@ -20,8 +20,8 @@ struct PlacedChord {
 // The chord that sounds at `bars`; nothing before the first.
 const Chord* chordAt(const std::vector<PlacedChord>& chords, double bars);
 
-// Appends the notes of `bar` (the text between two bar lines), which begins `start` bars into the part. A hold at the front
-// lengthens the last of `notes`. Throws ScoreError with `line`.
+// Appends the notes of `bar` (the text between two bar lines), which begins `start` bars into the part. A hold at the
+// front lengthens the last of `notes`. Throws ScoreError with `line`.
 void appendBar(std::vector<ScoreNote>& notes, std::string_view bar, double start, const ScoreVoice& voice,
                const std::vector<PlacedChord>& chords, int line);
 

@@ -13,7 +13,9 @@ namespace vandrel {
 namespace {
 
 // Low bars ring longer than high ones, as on the instrument.
-double ringOf(double hertz, double atMiddle) { return atMiddle * std::pow(262.0 / hertz, 0.45); }
+double ringOf(double hertz, double atMiddle) {
+    return atMiddle * std::pow(262.0 / hertz, 0.45);
+}
 
 // Rosewood bars over tubes: the ground note, the fourth partial that makes the sound, a woolly knock.
 Signal marimba(const Tone& tone) {
@@ -30,13 +32,15 @@ Signal marimba(const Tone& tone) {
 // Small steel plates, far up.
 Signal glockenspiel(const Tone& tone) {
     const double ring = ringOf(tone.hertz, 0.9);
-    const std::array<Partial, 3> plate{{{1.0, 0.7, ring}, {2.71, 0.22 * tone.force + 0.06, ring * 0.4}, {5.15, 0.1, ring * 0.15}}};
+    const std::array<Partial, 3> plate{
+        {{1.0, 0.7, ring}, {2.71, 0.22 * tone.force + 0.06, ring * 0.4}, {5.15, 0.1, ring * 0.15}}};
     return struckPartials(std::min(2.2, ring * 6.0), tone.hertz, plate, 0.0008);
 }
 
 // A soft bell of glass, for tension: partials just beside the natural ones.
 Signal glass(const Tone& tone) {
-    const std::array<Partial, 5> cup{{{1.0, 0.7, 0.42}, {1.003, 0.3, 0.4}, {2.0, 0.18, 0.22}, {3.01, 0.2, 0.13}, {5.43, 0.07, 0.06}}};
+    const std::array<Partial, 5> cup{
+        {{1.0, 0.7, 0.42}, {1.003, 0.3, 0.4}, {2.0, 0.18, 0.22}, {3.01, 0.2, 0.13}, {5.43, 0.07, 0.06}}};
     return struckPartials(2.2, tone.hertz, cup, 0.002);
 }
 
@@ -58,7 +62,7 @@ Signal uprightBass(const Tone& tone) {
     add(result, shaped(oscillate(Wave::Sine, pitch), struckLevel(seconds, 0.006, 0.3)), 0.6);
     const Signal finger = resonantFilter(Pass::Band, noise(0.03, 311 + tone.take), 900.0, 0.8);
     add(result, shaped(finger, struckLevel(0.03, 0.001, 0.006)), 0.15);
-    return shaped(std::move(result), line(seconds, {{0.0, 1.0}, {seconds - 0.1, 1.0}, {seconds, 0.0}}));
+    return shaped(std::move(result), line(seconds, {{0.0, 0.0}, {0.002, 1.0}, {seconds - 0.1, 1.0}, {seconds, 0.0}}));
 }
 
 // Electric piano: a tine under a pickup, which growls when hit hard.
@@ -78,7 +82,8 @@ Signal electricPiano(const Tone& tone) {
 Signal synthPluck(const Tone& tone) {
     const double seconds = 0.55;
     const double open = tone.hertz * (4.0 + 9.0 * tone.force);
-    const Signal cutoff = glide(seconds, {{0.0, std::min(9000.0, open)}, {0.07, tone.hertz * 2.6}, {seconds, tone.hertz}});
+    const Signal cutoff =
+        glide(seconds, {{0.0, std::min(9000.0, open)}, {0.07, tone.hertz * 2.6}, {seconds, tone.hertz}});
     Signal wave = oscillate(Wave::Saw, steady(seconds, tone.hertz * 1.0015), 0.2);
     add(wave, pulseWave(steady(seconds, tone.hertz * 0.9985), 0.4, 0.1 * static_cast<double>(tone.take)), 0.6);
     return scaled(shaped(resonantFilter(Pass::Low, wave, cutoff, 1.3), struckLevel(seconds, 0.002, 0.075)), 0.55);
@@ -126,6 +131,8 @@ constexpr std::array<Instrument, 9> instruments{{{"marimba", marimba},
 
 }  // namespace
 
-std::span<const Instrument> struckInstruments() { return instruments; }
+std::span<const Instrument> struckInstruments() {
+    return instruments;
+}
 
 }  // namespace vandrel
