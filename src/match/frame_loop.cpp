@@ -31,7 +31,7 @@ constexpr int mostUpdatesBetweenPaintings = 4;
 constexpr int testUpdatesBetweenPaintings = 60;
 constexpr int overlayRow = 10;  // pixels
 
-void drawCornerText(const std::string& text, int y, FontId font = FontId::Builtin) {
+void drawCornerText(const std::string& text, int y, FontId font) {
     drawText(*screen, font, 0, y, toColour({255, 255, 255}), text, alignLeft);
 }
 
@@ -44,6 +44,9 @@ FrameLoopWorld realWorld() {
     world.fastForwardToggled = [] { return wasKeyReleased(ALLEGRO_KEY_F8); };
     world.pause = [](const std::shared_ptr<Music>& music) { return pauseCheck() && pauseMenu(music, false); };
     world.paint = [](Game& game) { drawGame(game, false); };
+    world.writeOverlay = [](const std::string& text, int y) { drawCornerText(text, y, FontId::Builtin); };
+    world.writeTimings = [](const std::string& text) { drawCornerText(text, 0, timingFont()); };
+    world.writeFrameRate = [] { drawFrameRate(FontId::Builtin); };
     world.present = [] { presentFrame(); };
     return world;
 }
@@ -119,7 +122,7 @@ void FrameLoop::paintFrame() {
     pendingTicks = 0;
     world_.paint(game_);
     if (alwaysShowFPS) {
-        drawFrameRate(FontId::Builtin);
+        world_.writeFrameRate();
     }
     // The overlay shows the times of the frame before: this frame's are not known while it is drawn.
     const float render1 = theProfiler.stopAveraged("render1").second;
@@ -135,20 +138,19 @@ void FrameLoop::drawOverlay() const {
     int overlayY = 0;
     if (diagnostic) {
         const auto ms = [](float seconds) { return seconds * 1000.0f; };
-        drawCornerText(
-            fmt::format("Update: {:.1f}ms  Render1: {:.1f}ms  Render2: {:.1f}ms  Frame: {:.1f}ms", ms(advanceTime_),
-                        ms(render1Time_), ms(render2Time_), ms(advanceTime_ + render1Time_ + render2Time_)),
-            0, timingFont());
-        drawCornerText(fmt::format("{}", static_cast<int>(frameCounter)), overlayRow);
-        drawCornerText(fmt::format("{}", game_.shrinkCountdown), 2 * overlayRow);
+        world_.writeTimings(fmt::format("Update: {:.1f}ms  Render1: {:.1f}ms  Render2: {:.1f}ms  Frame: {:.1f}ms",
+                                        ms(advanceTime_), ms(render1Time_), ms(render2Time_),
+                                        ms(advanceTime_ + render1Time_ + render2Time_)));
+        world_.writeOverlay(fmt::format("{}", static_cast<int>(frameCounter)), overlayRow);
+        world_.writeOverlay(fmt::format("{}", game_.shrinkCountdown), 2 * overlayRow);
         overlayY = 3 * overlayRow;
         if (game_.replay.playback) {
-            drawCornerText(replayName_, overlayY);
+            world_.writeOverlay(replayName_, overlayY);
             overlayY += overlayRow;
         }
     }
     if (fastForward) {
-        drawCornerText(">>", overlayY);
+        world_.writeOverlay(">>", overlayY);
     }
 }
 

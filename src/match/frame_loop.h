@@ -37,6 +37,11 @@ struct FrameLoopWorld {
     std::function<bool(const std::shared_ptr<Music>& music)> pause;
     // Paints the arena into the game bitmap.
     std::function<void(Game& game)> paint;
+    // Writes a line of the overlay over the picture, `y` pixels from its top, and the line of timings across it.
+    std::function<void(const std::string& text, int y)> writeOverlay;
+    std::function<void(const std::string& text)> writeTimings;
+    // Writes the frame rate over the picture.
+    std::function<void()> writeFrameRate;
     // Shows the game bitmap.
     std::function<void()> present;
 };
