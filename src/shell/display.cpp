@@ -35,7 +35,9 @@ void requestFlagsAndOptions(bool windowed) {
 
 void createDisplay(int width, int height, int adapter) {
     al_set_new_display_adapter(adapter);
-    theDisplay = al_create_display(width, height);
+    // The library does not answer for a monitor that is not there: it ends the process.
+    const bool adapterExists = adapter < 0 || adapter < al_get_num_video_adapters();
+    theDisplay = adapterExists ? al_create_display(width, height) : nullptr;
     forgetTarget();
     if (theDisplay == nullptr) {
         throw std::runtime_error("Failed to create display");

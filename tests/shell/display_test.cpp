@@ -137,20 +137,34 @@ TEST_F(GameScreenTest, APresentedFrameHasBlackBorders) {
 
 TEST(SetVideoModeTest, WithoutADisplayServerThereIsNoDisplay) {
     installAllegroHeadless();
+    ASSERT_EQ(al_get_num_video_adapters(), 0);
     frameCounter = 0;
-    const CapturedLog captured;
-    try {
-        setVideoMode(640, 480, true, 7);
-        FAIL();
-    } catch (const std::runtime_error& failure) {
-        EXPECT_STREQ(failure.what(), "Failed to create display");
+    struct Case {
+        int adapter;
+        bool windowed;
+        std::string expected;
+    };
+    const std::string flags = "0: Setting display flags\n";
+    const std::string create = "0: Create display: 640 480\n";
+    const std::string window = "0: Changing video mode to 640x480, windowed\n" + flags;
+    for (const Case& c :
+         {Case{-1, true, window + "0: Adapter: -1\n" + create},
+          Case{7, true, window + "0: Adapter: -1\n" + create},  // above the number of adapters
+          Case{0, true, window + "0: Adapter: 0\n" + create},   // equal to it: taken as it is
+          Case{-1, false, "0: Changing video mode to fullscreen window\n" + flags + "0: Adapter: -1\n" + create}}) {
+        SCOPED_TRACE(c.adapter);
+        const CapturedLog captured;
+        try {
+            setVideoMode(640, 480, c.windowed, c.adapter);
+            FAIL();
+        } catch (const std::runtime_error& failure) {
+            EXPECT_STREQ(failure.what(), "Failed to create display");
+        }
+        EXPECT_EQ(captured.text(), c.expected);
+        EXPECT_EQ(theDisplay, nullptr);
+        EXPECT_EQ((al_get_new_display_flags() & ALLEGRO_FULLSCREEN_WINDOW) == 0, c.windowed);
+        EXPECT_TRUE(al_get_new_display_flags() & ALLEGRO_WINDOWED) << "in both cases";
     }
-    EXPECT_EQ(captured.text(),
-              "0: Changing video mode to 640x480, windowed\n0: Setting display flags\n0: Adapter: -1\n"
-              "0: Create display: 640 480\n");
-    EXPECT_EQ(theDisplay, nullptr);
-    EXPECT_TRUE(al_get_new_display_flags() & ALLEGRO_WINDOWED);
-    EXPECT_FALSE(al_get_new_display_flags() & ALLEGRO_FULLSCREEN_WINDOW);
 }
 
 // An icon file with these widths (0 stands for 256), the bytes of each image ten behind the one before.
