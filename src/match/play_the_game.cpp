@@ -73,6 +73,7 @@ class Match {
 void Match::enter() {
     logText("New game" + (replayName_.empty() ? "" : ", replay: " + replayName_) + "\n");
     clearMatch();
+    onArenaResized = setGameScreenSize;
     if (replayName_.empty()) {
         reaches = Reaches{};
         return;
