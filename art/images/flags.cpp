@@ -14,13 +14,14 @@ namespace {
 constexpr int frames = 6;
 constexpr int poleColumn = 12;
 constexpr int firstCloth = 14, lastCloth = 29;  // one column of ink on either side
-constexpr int clothTop = 4, clothHeight = 10;
+constexpr int clothTop = 4, clothHeight = 10, foldLength = 5;
+constexpr float wavesOnCloth = 1.15f;
 
 // How far the cloth hangs above or below its middle line in a column. It is tied at the pole and swings free at the
 // end.
 int waveAt(int column, int frame) {
     const float along = static_cast<float>(column - firstCloth) / static_cast<float>(lastCloth - firstCloth);
-    const float phase = along * 1.15f - static_cast<float>(frame) / static_cast<float>(frames);
+    const float phase = along * wavesOnCloth - static_cast<float>(frame) / static_cast<float>(frames);
     return static_cast<int>(
         std::lround(1.7f * std::min(1.0f, along * 2.0f) * std::sin(phase * 2.0f * std::numbers::pi_v<float>)));
 }
@@ -31,15 +32,16 @@ Canvas flag(int frame) {
         canvas.fillRect(column, clothTop + waveAt(column, frame), 1, clothHeight, palette::flagRed);
     }
     canvas.outline();
-    // A fold runs down wherever the wave turns, one pixel aside for each two rows.
-    for (int column = firstCloth + 2; column < lastCloth - 1; ++column) {
-        const int before = waveAt(column - 1, frame), here = waveAt(column, frame), after = waveAt(column + 1, frame);
-        if (here != before && after == here) {
-            for (int row = 2; row < clothHeight - 2; ++row) {
-                if ((row < clothHeight / 2) == (here > before)) {
-                    canvas.set(column, clothTop + here + row, palette::ink);
-                }
-            }
+    // A crest folds from above, a trough from below; both travel with the wave.
+    for (int half = 0; half < 4; ++half) {
+        const float along =
+            (0.25f + 0.5f * static_cast<float>(half) - 1.0f + static_cast<float>(frame) / frames) / wavesOnCloth;
+        const int column =
+            firstCloth + static_cast<int>(std::lround(along * static_cast<float>(lastCloth - firstCloth)));
+        if (column > firstCloth + 1 && column < lastCloth - 1) {
+            const bool trough = half % 2 == 0;
+            const int first = clothTop + waveAt(column, frame) + (trough ? 0 : clothHeight - foldLength);
+            canvas.fillRect(column, first, 1, foldLength, palette::ink);
         }
     }
     canvas.fillRect(poleColumn - 1, 1, 3, 31, palette::ink);

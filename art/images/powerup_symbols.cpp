@@ -103,16 +103,16 @@ Canvas wingedBoot() {
 
 Canvas flexedArm() {
     Canvas canvas = blank();
-    const Shape arm = uniteAll({capsule(6.5f, 20, 20, 21.5f, 4.2f), ellipse(14, 15.8f, 5.0f, 4.2f),
-                                taper(22.5f, 21, 21.5f, 11, 4.2f, 3.0f), rectangle(16.5f, 5.5f, 8, 7, 2.4f)});
+    const Shape arm = uniteAll({taper(6, 22, 21, 22.5f, 3.6f, 4.0f), ellipse(12.5f, 17.5f, 4.8f, 4.6f),
+                                taper(22.5f, 22, 22.5f, 12, 3.4f, 2.4f), rectangle(16.5f, 6, 8.5f, 6.5f, 2.4f)});
     fill(canvas, arm, skinLight);
-    fill(canvas, subtract(arm, moved(arm, -1.6f, -1.6f)), skinMiddle);
+    fill(canvas, subtract(arm, moved(arm, -1.4f, -1.6f)), skinMiddle);
     canvas.outline();
-    canvas.line(17, 19, 19, 16, skinDark);
-    canvas.line(10, 17, 11, 15, white);
-    canvas.line(17, 9, 20, 9, skinDark);
-    canvas.line(17, 11, 20, 11, skinDark);
-    canvas.fillRect(5, 16, 2, 9, bone);
+    canvas.line(16, 21, 18, 19, skinDark);
+    canvas.line(10, 16, 12, 14, white);
+    for (const int row : {8, 10}) {
+        canvas.line(17, row, 20, row, skinDark);
+    }
     return canvas;
 }
 

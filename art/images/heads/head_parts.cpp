@@ -5,7 +5,8 @@ namespace {
 
 constexpr int size = 32;
 constexpr int neckLeft = 11, neckWidth = 10;
-constexpr int crawlDrop = 3;  // a crawler's head hangs lower, with its chin on the ground
+constexpr int standingDrop = 2;  // a head sits low between the shoulders
+constexpr int crawlDrop = 3;     // and lower still with its chin on the ground
 
 Canvas outlined(Canvas head) {
     head.outline();
@@ -18,7 +19,7 @@ Canvas onNeck(const Canvas& head, const Ramp& skin, int dx, int dy) {
     canvas.fillRect(neckLeft, 24, neckWidth, 8, palette::ink);
     canvas.fillRect(neckLeft + 1, 24, neckWidth - 2, 8, skin.dark);
     canvas.fillRect(neckLeft + 1, 30, 5, 2, skin.middle);
-    canvas.draw(head.shifted(dx, dy));
+    canvas.draw(head.shifted(dx, dy + standingDrop));
     return canvas;
 }
 
@@ -101,20 +102,18 @@ Canvas hairBack(const Ramp& hair) {
 }
 
 void layFrontCap(Canvas& head) {
-    const Shape dome = intersect(ellipse(16, 13, 12.4f, 11.2f), rectangle(0, 0, 32, 12));
+    const Shape dome = intersect(ellipse(16, 13, 12.4f, 11.2f), rectangle(0, 0, 32, 11));
     fillLit(head, dome, capCloth, 6);
-    head.fillRect(15, 2, 3, 1, palette::playerShade);
     fill(head, rectangle(14.5f, 1.6f, 3, 2.4f, 1), palette::playerFold);
     // The seams of the dome and the peak over the brow.
     for (const int y : {5, 6, 7, 8, 9, 10}) {
         head.set(y < 8 ? 12 : 11, y, palette::playerShade);
         head.set(y < 8 ? 19 : 20, y, palette::playerShade);
     }
-    const Shape peak = roundedBox(16, 13.5f, 12.4f, 2.4f, 2.3f);
+    const Shape peak = roundedBox(16, 12.0f, 12.4f, 2.0f, 1.9f);
     fill(head, grown(peak, 0.6f), palette::ink);
     fill(head, peak, palette::playerLit);
-    fill(head, rectangle(5, 14, 22, 1), palette::playerFold);
-    fill(head, rectangle(5, 15, 22, 1), palette::playerFold);
+    fill(head, rectangle(5, 13, 22, 1), palette::playerShade);
 }
 
 void laySideCap(Canvas& head) {
@@ -124,11 +123,11 @@ void laySideCap(Canvas& head) {
     for (const int y : {5, 6, 7, 8, 9, 10, 11}) {
         head.set(y < 8 ? 18 : 19, y, palette::playerShade);
     }
-    const Shape peak = roundedBox(23, 13.2f, 6.6f, 1.9f, 1.6f);
-    fill(head, grown(unite(peak, rectangle(3, 11.5f, 16, 3)), 0.6f), palette::ink);
+    const Shape peak = roundedBox(23, 12.4f, 6.6f, 1.6f, 1.5f);
+    fill(head, grown(unite(peak, rectangle(4, 11, 16, 3)), 0.6f), palette::ink);
     fill(head, peak, palette::playerLit);
-    fill(head, rectangle(17, 14, 12, 1), palette::playerFold);
-    fill(head, rectangle(4, 11.5f, 13, 3), palette::playerShade);
+    fill(head, rectangle(17, 13, 12, 1), palette::playerShade);
+    fill(head, rectangle(4, 11, 13, 3), palette::playerShade);
 }
 
 void layBackCap(Canvas& head) {
@@ -156,7 +155,7 @@ void layEye(Canvas& head, int x, int y, Lids lids, Colour lid, int width, bool l
     }
     fill(head, rectangle(left, top, static_cast<float>(width), 7, 2), palette::white);
     const int pupil = lookRight ? x + width - 3 : x + (width - 2) / 2 + (width > 5 ? 0 : 1) - 1;
-    head.fillRect(pupil, y + 2, 3, 4, palette::ink);
+    head.fillRect(pupil, y + 2, lookRight ? 2 : 3, 4, palette::ink);
     head.set(pupil, y + 2, palette::white);
     if (lids == Lids::Half) {
         fill(head, rectangle(left, top, static_cast<float>(width), 3, 1), lid);

@@ -25,12 +25,13 @@ Canvas front(Lids lids) {
 Canvas right(Lids lids) {
     Canvas head = sideSkull(tannedSkin);
     layEye(head, 20, 15, lids, tannedSkin.dark, 4, true);
-    fillLit(head, unite(roundedBox(19.5f, 24, 9.4f, 4.6f, 3.4f), polygon({{10, 15}, {15, 16}, {16, 24}, {12, 26}})),
-            beard, 4);
-    for (const int x : {15, 18, 21}) {
-        head.line(x, 24, x - 1, 26, beard.dark);
+    const Shape fur = uniteAll({roundedBox(17, 24, 8.6f, 4.6f, 4.0f),
+                                polygon({{8, 15}, {13, 15}, {16, 21}, {12, 26}, {8, 23}}), circle(24.5f, 23.5f, 2.6f)});
+    fillLit(head, fur, beard, 4);
+    for (const int x : {12, 15, 18, 21}) {
+        head.line(x, 23, x - 1, 26, beard.dark);
     }
-    layMarks(head, 23, 24, {"####", "#rr#"});
+    layMarks(head, 22, 22, {"#rr#", ".##."});
     laySideCap(head);
     return head;
 }

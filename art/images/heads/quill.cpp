@@ -5,7 +5,7 @@ namespace vandrel::art {
 namespace {
 
 void laySpike(Canvas& head, const std::vector<Point>& points) {
-    fill(head, grown(polygon(points), 0.7f), palette::ink);
+    fill(head, grown(polygon(points), 1.0f), palette::ink);
     fill(head, polygon(points), palette::playerLit);
 }
 
@@ -53,10 +53,12 @@ Canvas back(Lids) {
     laySpike(head, {{7, 13}, {8, 1.5f}, {17, 11}});
     laySpike(head, {{25, 13}, {24, 1.5f}, {15, 11}});
     laySpike(head, {{11, 14}, {16, 1.2f}, {21, 14}});
-    laySpike(head, {{5, 14}, {10, 26}, {14, 14}});
-    laySpike(head, {{18, 14}, {22, 26}, {27, 14}});
-    laySpike(head, {{10, 12}, {16, 28}, {22, 12}});
-    fill(head, polygon({{18, 20}, {22, 12}, {17, 14}, {16, 27}}), palette::playerShade);
+    fill(head, polygon({{5, 17}, {6, 9}, {16, 7}, {26, 9}, {27, 17}}), palette::playerLit);
+    laySpike(head, {{6, 15}, {9, 24}, {14, 15}});
+    laySpike(head, {{18, 15}, {23, 24}, {26, 15}});
+    laySpike(head, {{11, 15}, {16, 27}, {21, 15}});
+    fill(head, polygon({{6, 16}, {7, 9}, {16, 7}, {25, 9}, {26, 16}}), palette::playerLit);
+    fill(head, polygon({{17, 24}, {20, 15}, {16, 15}}), palette::playerShade);
     return head;
 }
 
