@@ -6,6 +6,7 @@ the owner of the object, by process, never by name.
 """
 
 import array
+import ctypes
 import os
 import select
 import shutil
@@ -109,8 +110,7 @@ class VirtualScreen:
                 pass_fds=[writer], stdin=subprocess.DEVNULL, stdout=output, stderr=output)
         os.close(writer)
         try:
-            ready, _, _ = select.select([reader], [], [], 60.0)
-            number = os.read(reader, 16).decode().strip() if ready else ""
+            number = self._line(reader)
         finally:
             os.close(reader)
         if not number:
@@ -118,6 +118,18 @@ class VirtualScreen:
             raise StageError("the virtual screen did not start: " + (Path(folder) / "screen.txt").read_text())
         self.environment = {"DISPLAY": f":{number}"}
         self._held = []
+
+    @staticmethod
+    def _line(reader, timeout=60.0):
+        """The whole line that the X server writes: it gives up if nobody waits for the end of it."""
+        text = b""
+        while not text.endswith(b"\n"):
+            ready, _, _ = select.select([reader], [], [], timeout)
+            more = os.read(reader, 16) if ready else b""
+            if not more:
+                return ""
+            text += more
+        return text.decode().strip()
 
     def close(self):
         end(self._process)
@@ -151,10 +163,41 @@ class VirtualScreen:
         if self._held:
             self.release(*self._held)
 
+    def confirm_box(self):
+        """Answers the message box that a program shows with Return. It does not lie under the pointer, and without a
+        window manager it gets the keys only when they are turned to it."""
+        self._xdotool("windowfocus", "--sync", str(self._window("--onlyvisible", "--class", "vandrel")))
+        self.hold(0.05, "Return")
+
+    def close_window(self, title):
+        """Asks the window of that title to close, as the button in its frame does: a message to its program."""
+        window = self._window("--name", f"^{title}$")
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        x11.XInternAtom.restype = ctypes.c_ulong
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.environment["DISPLAY"].encode()))
+        protocols = x11.XInternAtom(display, b"WM_PROTOCOLS", 0)
+        delete = x11.XInternAtom(display, b"WM_DELETE_WINDOW", 0)
+        client_message, message_format = 33, 32
+        event = struct.pack("@iLiPLLi5l", client_message, 0, 0, 0, window, protocols, message_format,
+                            delete, 0, 0, 0, 0)
+        x11.XSendEvent(display, ctypes.c_ulong(window), 0, ctypes.c_long(0), event.ljust(192, b"\0"))
+        x11.XCloseDisplay(display)
+
+    def _window(self, *search):
+        """The number of the window that a search of xdotool finds, once there is one."""
+        def found():
+            numbers = self._xdotool("search", *search, check=False).stdout.split()
+            return int(numbers[-1]) if numbers else None
+
+        return wait_for(found, f"a window ({' '.join(search)})")
+
     def _keys(self, action, keys):
-        commands = [word for key in keys for word in (action, key)]
-        subprocess.run(["xdotool", *commands], env={**os.environ, **self.environment}, check=True,
-                       stdin=subprocess.DEVNULL)
+        self._xdotool(*(word for key in keys for word in (action, key)))
+
+    def _xdotool(self, *commands, check=True):
+        return subprocess.run(["xdotool", *commands], env={**os.environ, **self.environment}, check=check,
+                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
 
 
 class NullSound:
@@ -266,12 +309,12 @@ class Stage:
                 part.close()
         shutil.rmtree(self.folder, ignore_errors=True)
 
-    def start(self, program, arguments=(), working_directory=WORKING_DIRECTORY, environment=None):
+    def start(self, program, arguments=(), working_directory=None, environment=None):
         """Starts the game on this stage. In `environment` a variable without a value is one that the game shall not
         have."""
         wanted = {**os.environ, **self.screen.environment, **self.sound.environment,
                   "XDG_DATA_HOME": str(self.data_home), "LIBGL_ALWAYS_SOFTWARE": "1", **(environment or {})}
-        game = Game(program, arguments, working_directory,
+        game = Game(program, arguments, working_directory or WORKING_DIRECTORY,
                     {name: value for name, value in wanted.items() if value is not None},
                     self.data_home / "vandrel", self.folder / f"errors{len(self._games)}.txt")
         self._games.append(game)

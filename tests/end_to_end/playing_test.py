@@ -1,0 +1,77 @@
+"""Two players at one keyboard: real keys, real pixels, and the sound that the game really makes."""
+
+import unittest
+from collections import Counter
+
+import stage
+from game_test_case import FIRST_PLAYER, SECOND_PLAYER, SQUARES, ArenaTestCase, square_differs, square_of, turned
+
+# Both players start in opposite corners with two free squares each way, so what one does the other can do turned.
+PLAYERS = [
+    ("the first player", FIRST_PLAYER, lambda square: square,
+     {"up": "up", "down": "down", "left": "left", "right": "right"}),
+    ("the second player", SECOND_PLAYER, turned,
+     {"up": "down", "down": "up", "left": "right", "right": "left"}),
+]
+
+WALL = (4, 1)  # behind the free squares; a bomb on (3, 1) reaches it
+LOUD = 500  # of 32,768: above any dither of the mixers
+
+
+class Playing(ArenaTestCase):
+    def test_keys_walk_the_players_round_their_corners(self):
+        game, arena = self.start_round()
+        for name, keys, place, way in PLAYERS:
+            with self.subTest(name):
+                empty = place((1, 1))
+                picture = self.walk(game, keys[way["right"]], place((3, 1)), arena)
+                self.assertTrue(square_differs(picture, arena, empty), "the start is empty once the player has gone")
+                self.walk(game, keys[way["left"]], empty, picture)
+                self.walk(game, keys[way["down"]], place((1, 3)), arena)
+        self.assertEqual(self.leave(game), 0)
+
+    def test_a_bomb_is_heard_and_crumbles_a_wall(self):
+        game, arena, (_, keys, place, way) = self.round_with_a_wall_to_crumble()
+        recording = self.stage.sound.record()
+        self.addCleanup(recording.close)
+        quiet_until = recording.length()
+        self.assertLess(recording.loudest(), LOUD, "nothing is heard before the bomb")
+
+        self.walk(game, keys[way["right"]], place((3, 1)), arena)
+        self.screen.press(keys["bomb"])
+        back = self.walk(game, keys[way["left"]], place((1, 1)), self.screen.picture())
+        self.screen.release(keys["bomb"])
+        self.walk(game, keys[way["down"]], place((1, 3)), back)
+
+        stage.wait_for(lambda: recording.loudest(quiet_until) > LOUD, "the sound of the bomb")
+        wall = place(WALL)
+        self.wait_for_lasting_picture(game, lambda picture: square_differs(picture, arena, wall, 0.5), 2,
+                                      "the wall to crumble")
+        self.assertEqual(self.leave(game), 0)
+
+    def test_who_stands_on_a_bomb_dies_and_the_round_ends(self):
+        game, arena = self.start_round()
+        start = (1, 1)
+        self.screen.press(FIRST_PLAYER["bomb"])
+        self.wait_for_picture(game, lambda picture: square_differs(picture, arena, start), "the bomb")
+        self.screen.release(FIRST_PLAYER["bomb"])
+        stage.wait_for(lambda: game.errors().count("Begin game\n") == 2, "the next round to begin")
+        self.assertEqual(self.leave(game), 0)
+
+    def round_with_a_wall_to_crumble(self):
+        """A round in which at least one player has a wall that one bomb takes behind the free squares: the picture that
+        most squares share, as hard walls are few. Gives the game, its first picture and that player."""
+        for _ in range(20):
+            game, arena = self.start_round()
+            squares = Counter(b"".join(square_of(arena, (x, y)).rows)
+                              for x in range(1, SQUARES[0] - 1) for y in range(1, SQUARES[1] - 1))
+            wall_picture = squares.most_common(1)[0][0]
+            for player in PLAYERS:
+                if b"".join(square_of(arena, player[2](WALL)).rows) == wall_picture:
+                    return game, arena, player
+            self.leave(game)
+        raise stage.StageError("no level had a wall to crumble")
+
+
+if __name__ == "__main__":
+    unittest.main()
