@@ -1,5 +1,11 @@
 #include "replay/tool/headless_playback.h"
 
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
 #include "arena/arena.h"
 #include "arena/level_generation.h"
 #include "arena/sparks.h"
@@ -23,7 +29,22 @@ void startRound(Game& game) {
     frameCounter = 0;
 }
 
-HeadlessPlayback::HeadlessPlayback(const std::string& path) : replay_(path), data_(replay_.data(false)) {
+namespace {
+
+// The path, if there is a file that can be opened. Says what the matter is in words that the streams do not have.
+const std::string& checkedPath(const std::string& path) {
+    if (std::filesystem::is_directory(path)) {
+        throw std::runtime_error("is a folder");
+    }
+    if (!std::ifstream(path).is_open()) {
+        throw std::runtime_error("cannot be opened for reading");
+    }
+    return path;
+}
+
+}  // namespace
+
+HeadlessPlayback::HeadlessPlayback(const std::string& path) : replay_(checkedPath(path)), data_(replay_.data(false)) {
     const Square arenaSize{grid_squares_x, grid_squares_y};
     players.clear();
     makeReplayPlayers(replay_.playerSetups(), replay_.version(), {std::make_shared<NoControls>()});
@@ -55,8 +76,30 @@ bool HeadlessPlayback::step() {
     return end_ == PlaybackEnd::Running;
 }
 
-void HeadlessPlayback::finish() { replay_.finish(end_ == PlaybackEnd::RoundOver || end_ == PlaybackEnd::EndMark); }
+void HeadlessPlayback::requireAllPlayed() {
+    std::streambuf& bytes = *data_.input->rdbuf();
+    std::streamsize left = 0;
+    int next = bytes.sbumpc();
+    // A playback that met the end mark may have taken it, or only seen it.
+    if (next == replayEndMark) {
+        next = bytes.sbumpc();
+    } else if (end_ == PlaybackEnd::RoundOver) {
+        throw std::runtime_error("the round ended where the replay has no end mark");
+    }
+    for (; next != std::char_traits<char>::eof(); next = bytes.sbumpc()) {
+        ++left;
+    }
+    if (left > 0) {
+        throw std::runtime_error(fmt::format("{} bytes of the replay are left over", left));
+    }
+}
 
-long long HeadlessPlayback::position() const { return replayInputPos(data_); }
+void HeadlessPlayback::finish() {
+    replay_.finish(end_ == PlaybackEnd::RoundOver || end_ == PlaybackEnd::EndMark);
+}
+
+long long HeadlessPlayback::position() const {
+    return replayInputPos(data_);
+}
 
 }  // namespace vandrel

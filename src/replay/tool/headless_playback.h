@@ -1,5 +1,5 @@
-// One recorded round, played with no screen as fast as it can be: what the match driver does around a round, and no more.
-// vandrel-replay, the tests and the benchmarks use it. There is one arena in the process, so one round at a time.
+// One recorded round, played with no screen as fast as it can be: what the match driver does around a round, and no
+// more. vandrel-replay, the tests and the benchmarks use it. There is one arena in the process, so one round at a time.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,8 @@ enum class PlaybackEnd {
 
 class HeadlessPlayback {
   public:
-    // Opens the replay and sets its round up. Throws whatever a broken file has the reading operations throw.
+    // Opens the replay and sets its round up. Throws std::runtime_error for what is no file, and whatever a broken one
+    // has the reading operations throw.
     explicit HeadlessPlayback(const std::string& path);
     // Empties the arena and puts the options back.
     ~HeadlessPlayback();
@@ -31,8 +32,10 @@ class HeadlessPlayback {
 
     // Plays one update; false once there is no more. Throws the failed assertion of the first difference.
     bool step();
-    // To be called behind the last step: closes the file and requires that the verification text, if there is one, is used up.
-    // A file that breaks off is let be.
+    // Throws std::runtime_error if the file holds records behind those that were played.
+    void requireAllPlayed();
+    // To be called behind the last step: closes the file and requires that the verification text, if there is one, is
+    // used up. A file that breaks off is let be.
     void finish();
 
     PlaybackEnd end() const { return end_; }

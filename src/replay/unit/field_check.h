@@ -1,5 +1,5 @@
-// Bounds for numbers that come from a file. A damaged or forged replay is refused by name before anything is allocated, indexed or
-// multiplied by what it says.
+// Bounds for numbers that come from a file. A damaged or forged replay is refused by name before anything is allocated,
+// indexed or multiplied by what it says.
 #pragma once
 
 #include <string_view>
@@ -12,8 +12,8 @@ namespace vandrel {
 // `value` if it lies in `low` to `high`, both included; refused otherwise.
 int checkedField(std::string_view name, int value, int low, int high);
 
-// For lengths of time in frames and for counts of snakes and squares: far more than any round lasts, on either side of zero, and
-// few enough that the rules can add and multiply them.
+// For lengths of time in frames and for counts of snakes and squares: far more than any round lasts, on either side of
+// zero, and few enough that the rules can add and multiply them.
 int checkedFrames(std::string_view name, int value);
 
 }  // namespace vandrel

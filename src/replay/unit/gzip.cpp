@@ -42,7 +42,8 @@ std::string gzipCompress(std::string_view bytes) {
         throw std::runtime_error(inputTooLarge);
     }
     z_stream stream{};
-    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, gzipWindowBits, memoryLevel, Z_DEFAULT_STRATEGY) != Z_OK) {
+    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, gzipWindowBits, memoryLevel, Z_DEFAULT_STRATEGY) !=
+        Z_OK) {
         throw std::runtime_error("deflate init failed");
     }
     const std::unique_ptr<z_stream, int (*)(z_stream*)> end(&stream, deflateEnd);

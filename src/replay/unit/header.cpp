@@ -42,7 +42,9 @@ void writeColour(std::ostream* stream, const ALLEGRO_COLOR& colour) {
     writeInt(stream, rgb.blue);
 }
 
-std::uint8_t randomChannel() { return static_cast<std::uint8_t>(gameRand() & highestChannel); }
+std::uint8_t randomChannel() {
+    return static_cast<std::uint8_t>(gameRand() & highestChannel);
+}
 
 std::uint8_t readChannel(std::istream* stream) {
     return static_cast<std::uint8_t>(checkedField("colour", readInt(stream), 0, highestChannel));
@@ -179,7 +181,7 @@ void writeReplayHeader(std::ostream& stream) {
     const ArenaSize& arenaSize = checkedAt(arenaSizes, gameOptions.arenaSizeResolved.value());
     VANDREL_CHECK(arenaSize.width == grid_squares_x, "arenaSize.x == grid_squares_x");
     VANDREL_CHECK(arenaSize.height == grid_squares_y, "arenaSize.y == grid_squares_y");
-    writeOptionRecord(&stream);
+    writeOptionRecord(&stream, {grid_squares_x, grid_squares_y});
     writeByte(&stream, static_cast<int>(reaches.flag));
     writeTeams(&stream);
     for (const auto& player : players) {

@@ -1,5 +1,5 @@
-// The head of a replay: options, teams and players. The match driver writes it at the start of a round and loads it at the entry of
-// a replay; the browser reads the options alone (option_record.h).
+// The head of a replay: options, teams and players. The match driver writes it at the start of a round and loads it at
+// the entry of a replay; the browser reads the options alone (option_record.h).
 #pragma once
 
 #include <iosfwd>
@@ -20,13 +20,14 @@ struct PlayerSetup {
     int cash = 0;
 };
 
-// Writes `gameOptions`, the arena's size, `teams` and `players`. The size must be that of the resolved arena, or an assertion fails.
+// Writes `gameOptions`, the arena's size, `teams` and `players`. The size must be that of the resolved arena, or an
+// assertion fails.
 void writeReplayHeader(std::ostream& stream);
 
-// Replaces `gameOptions`, the arena's size, the reach of flags and `teams` by what the file says, and gives the players, whose teams
-// are found; the teams' members are for the caller to add, once the players exist. Throws std::bad_optional_access for a version
-// that this build cannot play, std::runtime_error for a wrong marker or a number that no release wrote, std::ios_base::failure for a
-// short file.
+// Replaces `gameOptions`, the arena's size, the reach of flags and `teams` by what the file says, and gives the
+// players, whose teams are found; the teams' members are for the caller to add, once the players exist. Throws
+// std::bad_optional_access for a version that this build cannot play, std::runtime_error for a wrong marker or a number
+// that no release wrote, std::ios_base::failure for a short file.
 std::vector<PlayerSetup> loadReplayHeader(std::istream& stream, int& version);
 
 }  // namespace vandrel

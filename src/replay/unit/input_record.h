@@ -16,8 +16,8 @@ struct InputRecord {
 // Writes the record of player `num` and hands it to the system. Throws as the writing operations of the streams do.
 void writeInputRecord(const PackagedReplayData& replayData, int num, int xDir, int yDir, bool fire, bool button2);
 
-// Reads the record of player `num`. Throws the int 119 where the end mark stands in its place, a failed assertion for another
-// player's record or a direction that no writer makes, and what the reading operations throw.
+// Reads the record of player `num`. Throws the int 119 where the end mark stands in its place, a failed assertion for
+// another player's record or a direction that no writer makes, and what the reading operations throw.
 InputRecord decodeInputRecord(const PackagedReplayData& replayData, int num);
 
 }  // namespace vandrel

@@ -1,9 +1,7 @@
 #include "replay/unit/option_record.h"
 
-#include <limits>
-#include <string_view>
+#include <utility>
 
-#include "arena/arena.h"
 #include "base/version.h"
 #include "replay/unit/field_check.h"
 #include "replay/unit/streams.h"
@@ -16,7 +14,7 @@ constexpr std::string_view optionsMarker = "@@@";
 constexpr int mostPlayers = 100;
 constexpr int smallestSide = 5;
 constexpr int largestSide = 127;
-constexpr int highestRate = 1'000'000;     // updates a second
+constexpr int highestRate = 1'000'000;  // updates a second
 constexpr int highestMultiplier = 100;
 constexpr int lastRecordWithEarlyTime = replayVersion(0, 0, 4);
 
@@ -34,13 +32,25 @@ struct Since {
     Value absent;
 };
 
-int valueOf(int field) { return field; }
-int valueOf(const std::optional<int>& field) { return field.value(); }
-int valueOf(GameMode field) { return static_cast<int>(field); }
+int valueOf(int field) {
+    return field;
+}
+int valueOf(const std::optional<int>& field) {
+    return field.value();
+}
+int valueOf(GameMode field) {
+    return static_cast<int>(field);
+}
 
-void assign(int& field, int value) { field = value; }
-void assign(std::optional<int>& field, int value) { field = value; }
-void assign(GameMode& field, int value) { field = static_cast<GameMode>(value); }
+void assign(int& field, int value) {
+    field = value;
+}
+void assign(std::optional<int>& field, int value) {
+    field = value;
+}
+void assign(GameMode& field, int value) {
+    field = static_cast<GameMode>(value);
+}
 
 // The two directions. The writer always writes the newest layout, so it looks at no version.
 class FieldWriter {
@@ -56,7 +66,7 @@ class FieldWriter {
         writeInt(stream_, valueOf(field));
     }
     void number(std::string_view, int& field, Range, std::optional<Since<int>> = {}) { writeInt(stream_, field); }
-    void flag(bool& field, std::optional<Since<bool>> = {}) { writeBool(stream_, field); }
+    void flag(std::string_view, bool& field, std::optional<Since<bool>> = {}) { writeBool(stream_, field); }
     void marker(int) { writeMarker(stream_, optionsMarker); }
     bool storesEarlyTime() const { return false; }
 
@@ -84,7 +94,7 @@ class FieldReader {
     void number(std::string_view name, int& field, Range range, std::optional<Since<int>> since = {}) {
         field = isAbsent(since) ? since->absent : checkedField(name, readInt(stream_), range.low, range.high);
     }
-    void flag(bool& field, std::optional<Since<bool>> since = {}) {
+    void flag(std::string_view, bool& field, std::optional<Since<bool>> since = {}) {
         field = isAbsent(since) ? since->absent : readBool(stream_);
     }
     void marker(int since) {
@@ -104,19 +114,42 @@ class FieldReader {
     int version_;
 };
 
+// Lists the fields as they stand.
+class FieldLister {
+  public:
+    std::vector<StoredOption> fields;
+
+    template <class Field>
+    void byte(std::string_view name, Field& field, Range, std::optional<Since<int>> = {}) {
+        fields.push_back({name, valueOf(field), false});
+    }
+    template <class Field>
+    void number(std::string_view name, Field& field, std::optional<Since<int>> = {}) {
+        fields.push_back({name, valueOf(field), false});
+    }
+    void number(std::string_view name, int& field, Range, std::optional<Since<int>> = {}) {
+        fields.push_back({name, field, false});
+    }
+    void flag(std::string_view name, bool& field, std::optional<Since<bool>> = {}) {
+        fields.push_back({name, field ? 1 : 0, true});
+    }
+    void marker(int) {}
+    bool storesEarlyTime() const { return false; }
+};
+
 using SinceInt = Since<int>;
 using SinceBool = Since<bool>;
 
 template <class Fields>
 void ruleFields(Fields& fields, GameOptions& options) {
-    fields.flag(options.shrinkingOn);
+    fields.flag("shrinkingOn", options.shrinkingOn);
     fields.byte("initialSpeed", options.initialSpeed, anyByte);
     fields.byte("snailSeconds", options.snailSeconds, anyByte);
-    fields.flag(options.remoteHoldToArm);
-    fields.flag(options.remoteExplosionDelay);
-    fields.flag(options.rocketExplosionDelay);
-    fields.flag(options.startAsSnake, SinceBool{replayVersion(0, 0, 10), false});
-    fields.flag(options.startWithShield, SinceBool{replayVersion(0, 95, 19), false});
+    fields.flag("remoteHoldToArm", options.remoteHoldToArm);
+    fields.flag("remoteExplosionDelay", options.remoteExplosionDelay);
+    fields.flag("rocketExplosionDelay", options.rocketExplosionDelay);
+    fields.flag("startAsSnake", options.startAsSnake, SinceBool{replayVersion(0, 0, 10), false});
+    fields.flag("startWithShield", options.startWithShield, SinceBool{replayVersion(0, 95, 19), false});
     fields.byte("speedCap", options.speedCap, anyByte, SinceInt{replayVersion(0, 95, 24), 8});
     fields.byte("shrinkSpeedFrames", options.shrinkSpeedFrames, anyByte);
     fields.byte("shrinkStyleResolved", options.shrinkStyleResolved, anyUnsignedByte,
@@ -130,12 +163,12 @@ template <class Fields>
 void modeFields(Fields& fields, GameOptions& options) {
     constexpr int everythingFrom = replayVersion(1, 0, 9);
     fields.byte("gameMode", options.gameMode, Range{0, gameModeCount - 1}, SinceInt{replayVersion(0, 0, 1), 0});
-    fields.flag(options.singleFlag, SinceBool{replayVersion(0, 0, 7), true});
-    fields.flag(options.everythingBattleRoyale, SinceBool{everythingFrom, false});
-    fields.flag(options.everythingCTF, SinceBool{everythingFrom, false});
-    fields.flag(options.everythingDeathmatch, SinceBool{everythingFrom, false});
-    fields.flag(options.everythingKotH, SinceBool{everythingFrom, false});
-    fields.flag(options.everythingSnakeHunter, SinceBool{everythingFrom, false});
+    fields.flag("singleFlag", options.singleFlag, SinceBool{replayVersion(0, 0, 7), true});
+    fields.flag("everythingBattleRoyale", options.everythingBattleRoyale, SinceBool{everythingFrom, false});
+    fields.flag("everythingCTF", options.everythingCTF, SinceBool{everythingFrom, false});
+    fields.flag("everythingDeathmatch", options.everythingDeathmatch, SinceBool{everythingFrom, false});
+    fields.flag("everythingKotH", options.everythingKotH, SinceBool{everythingFrom, false});
+    fields.flag("everythingSnakeHunter", options.everythingSnakeHunter, SinceBool{everythingFrom, false});
     fields.byte("playerKillPoints", options.playerKillPoints, anyByte, SinceInt{everythingFrom, 1});
     fields.byte("snakeHurtPoints", options.snakeHurtPoints, anyByte, SinceInt{everythingFrom, 1});
     fields.byte("snakeKillPoints", options.snakeKillPoints, anyByte, SinceInt{everythingFrom, 1});
@@ -150,14 +183,14 @@ void snakeFields(Fields& fields, GameOptions& options) {
     fields.number("snakesAtOnce", options.snakesAtOnce, SinceInt{snakesFrom, unset});
     fields.number("snakePreparationFrames", options.snakePreparationFrames, SinceInt{snakesFrom, unset});
     fields.number("snakeSpawnFrames", options.snakeSpawnFrames, SinceInt{snakesFrom, unset});
-    fields.flag(options.snakeHunterRespawn, SinceBool{replayVersion(0, 95, 22), false});
+    fields.flag("snakeHunterRespawn", options.snakeHunterRespawn, SinceBool{replayVersion(0, 95, 22), false});
     fields.byte("snakeSpeed", options.snakeSpeed, anyByte, SinceInt{replayVersion(0, 95, 23), 3});
 }
 
 template <class Fields>
 void wallFields(Fields& fields, RespawnWallOptions& walls) {
     constexpr int respawningWallsFrom = replayVersion(0, 96, 7);
-    fields.flag(walls.enabled, SinceBool{respawningWallsFrom, false});
+    fields.flag("respawnWallsResolved.enabled", walls.enabled, SinceBool{respawningWallsFrom, false});
     fields.number("respawnWallsResolved.interval", walls.interval, SinceInt{respawningWallsFrom, 0});
     fields.number("respawnWallsResolved.startBelow", walls.startBelow, SinceInt{respawningWallsFrom, 0});
     fields.number("respawnWallsResolved.stopAt", walls.stopAt, SinceInt{respawningWallsFrom, 0});
@@ -168,7 +201,7 @@ template <class Fields>
 void timeFields(Fields& fields, GameOptions& options) {
     constexpr int stunTimesFrom = replayVersion(0, 97, 8);
     fields.byte("respawnTime", options.respawnTime, anyByte, SinceInt{replayVersion(0, 96, 12), 10});
-    fields.flag(options.minorStunEnabled, SinceBool{replayVersion(0, 97, 5), false});
+    fields.flag("minorStunEnabled", options.minorStunEnabled, SinceBool{replayVersion(0, 97, 5), false});
     fields.byte("snakeStartLength", options.snakeStartLength, anyByte, SinceInt{replayVersion(0, 97, 6), 4});
     fields.number("majorStunTime", options.majorStunTime, SinceInt{stunTimesFrom, 180});
     fields.number("minorStunTime", options.minorStunTime, SinceInt{stunTimesFrom, 180});
@@ -187,7 +220,8 @@ void optionFields(Fields& fields, GameOptions& options, Square& arenaSize) {
     ruleFields(fields, options);
     modeFields(fields, options);
     snakeFields(fields, options);
-    fields.flag(options.bombPowerupResetsBombType, SinceBool{replayVersion(0, 96, 5), false});
+    fields.flag("bombPowerupResetsBombType", options.bombPowerupResetsBombType,
+                SinceBool{replayVersion(0, 96, 5), false});
     wallFields(fields, options.respawnWallsResolved);
     timeFields(fields, options);
     fields.marker(replayVersion(0, 95, 13));
@@ -195,10 +229,9 @@ void optionFields(Fields& fields, GameOptions& options, Square& arenaSize) {
 
 }  // namespace
 
-void writeOptionRecord(std::ostream* stream) {
+void writeOptionRecord(std::ostream* stream, Square arenaSize) {
     writeInt(stream, replayOutputVersion);
     FieldWriter fields(stream);
-    Square arenaSize{grid_squares_x, grid_squares_y};
     optionFields(fields, gameOptions, arenaSize);
 }
 
@@ -220,6 +253,13 @@ std::optional<GameOptions> readGameOptions(std::istream& stream, int& version) {
         return std::nullopt;
     }
     return std::move(record->options);
+}
+
+std::vector<StoredOption> listStoredOptions(const OptionRecord& record) {
+    OptionRecord copy = record;
+    FieldLister lister;
+    optionFields(lister, copy.options, copy.arenaSize);
+    return std::move(lister.fields);
 }
 
 }  // namespace vandrel

@@ -1,5 +1,5 @@
-// The replays on disk: which there are, what their headers say, and the name of the next one. The match driver asks for names, the
-// replay menu for the list.
+// The replays on disk: which there are, what their headers say, and the name of the next one. The match driver asks for
+// names, the replay menu for the list.
 #pragma once
 
 #include <cstdint>
@@ -11,9 +11,9 @@
 namespace vandrel {
 
 struct ReplayInfo {
-    int number = 0;         // the first part of the file's name
-    int version = -1;       // from the header; -1 if that was not asked for
-    int gameMode = 0;       // from the header, as are the players
+    int number = 0;    // the first part of the file's name
+    int version = -1;  // from the header; -1 if that was not asked for
+    int gameMode = 0;  // from the header, as are the players
     int numPlayers = 0;
     std::string path;
     std::optional<std::filesystem::directory_entry> entry;
@@ -21,9 +21,9 @@ struct ReplayInfo {
     std::vector<std::string> errors;  // the lines to show; none for a file that can be played
 };
 
-// Every file under `replaysDir()` whose name ends in ".replay", newest first; with `readHeaders` each with what its header says or
-// why it cannot be read. A folder that cannot be walked ends the list early. Throws std::invalid_argument or std::out_of_range for
-// a name that does not begin with a number.
+// Every file under `replaysDir()` whose name ends in ".replay", newest first; with `readHeaders` each with what its
+// header says or why it cannot be read. A folder that cannot be walked ends the list early. Throws
+// std::invalid_argument or std::out_of_range for a name that does not begin with a number.
 std::vector<ReplayInfo> getAllReplays(bool readHeaders);
 
 // The path of the next recording: the highest number in use plus one, and this build's version.

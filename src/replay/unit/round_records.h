@@ -11,9 +11,9 @@ class Game;
 void writeRound(const PackagedReplayData& replayData, const Game& game);
 void readRound(const PackagedReplayData& replayData, Game& game);
 
-// Kind and powerup of every square, and the pixel position of every player, each with its marker behind it. Reading fills the
-// layers, which have their size already, and moves the players; it throws std::runtime_error for a wrong marker and for a kind or
-// powerup that no release wrote.
+// Kind and powerup of every square, and the pixel position of every player, each with its marker behind it. Reading
+// fills the layers, which have their size already, and moves the players; it throws std::runtime_error for a wrong
+// marker and for a kind or powerup that no release wrote.
 void writeGrid(const PackagedReplayData& replayData);
 void readGrid(const PackagedReplayData& replayData);
 

@@ -12,7 +12,8 @@ namespace vandrel {
 
 namespace {
 
-// Whether bytes could ever come from here. Asked on failure only: finding out what a stream is takes longer than a read.
+// Whether bytes could ever come from here. Asked on failure only: finding out what a stream is takes longer than a
+// read.
 bool isOpen(std::istream* stream) {
     const auto* file = dynamic_cast<std::ifstream*>(stream);
     return file == nullptr || file->is_open();
@@ -62,9 +63,13 @@ std::uint8_t readByte(std::istream* stream) {
     return static_cast<std::uint8_t>(Traits::to_char_type(next));
 }
 
-bool readBool(std::istream* stream) { return readByte(stream) != 0; }
+bool readBool(std::istream* stream) {
+    return readByte(stream) != 0;
+}
 
-int readSignedByte(std::istream* stream) { return static_cast<signed char>(readByte(stream)); }
+int readSignedByte(std::istream* stream) {
+    return static_cast<signed char>(readByte(stream));
+}
 
 int readInt(std::istream* stream) {
     std::uint32_t value = 0;
@@ -89,7 +94,9 @@ void writeByte(std::ostream* stream, int value) {
     writeBytes(stream, &byte, 1, value);
 }
 
-void writeBool(std::ostream* stream, bool value) { writeByte(stream, value ? 1 : 0); }
+void writeBool(std::ostream* stream, bool value) {
+    writeByte(stream, value ? 1 : 0);
+}
 
 void writeInt(std::ostream* stream, int value) {
     std::array<char, 4> bytes{};
@@ -100,7 +107,9 @@ void writeInt(std::ostream* stream, int value) {
     writeBytes(stream, bytes.data(), bytes.size(), value);
 }
 
-void writeMarker(std::ostream* stream, std::string_view text) { writeBytes(stream, text.data(), text.size(), text); }
+void writeMarker(std::ostream* stream, std::string_view text) {
+    writeBytes(stream, text.data(), text.size(), text);
+}
 
 void flushWritten(std::ostream* stream) {
     if (stream == nullptr || stream->rdbuf()->pubsync() != 0) {

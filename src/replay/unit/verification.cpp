@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/version.h"
+#include "replay/unit/proof.h"
 #include "replay/unit/streams.h"
 #include "shell/assertion.h"
 
@@ -19,8 +20,6 @@ constexpr int snakeLinesFrom = replayVersion(0, 95, 4);
 constexpr int unprovedScoresFrom = replayVersion(1, 0, 9);
 constexpr int unprovedScoresBelow = replayVersion(1, 0, 12);
 
-ProofCounts counts;
-
 // A number that is missing or no number reads as 0, and then differs or fails the test of the stream.
 int readNumber(std::istream& text) {
     int number = 0;
@@ -32,22 +31,26 @@ void comparePosition(const PackagedReplayData& replayData, const VerifiedPlayer&
     std::istream& text = *replayData.inputVerify;
     const int verifyPlayer = readNumber(text);
     VANDREL_CHECK(text.good(), "replayData.inputVerify->good()");
-    VANDREL_CHECK_AT(verifyPlayer == player.num, "verifyPlayer == num", replayInputPos(replayData));
+    VANDREL_CHECK_AT(provesEqual(player.num, verifyPlayer, player.num), "verifyPlayer == num",
+                     replayInputPos(replayData));
     const int verifyX = readNumber(text);
-    VANDREL_CHECK_AT(verifyX == player.x, "verifyX == x", replayInputPos(replayData));
+    VANDREL_CHECK_AT(provesEqual(player.num, verifyX, player.x), "verifyX == x", replayInputPos(replayData));
     const int verifyY = readNumber(text);
-    VANDREL_CHECK_AT(verifyY == player.y, "verifyY == y", replayInputPos(replayData));
-    ++counts.positions;
+    VANDREL_CHECK_AT(provesEqual(player.num, verifyY, player.y), "verifyY == y", replayInputPos(replayData));
+    ++proof.positions;
     if (player.snakeLength < 1 || replayData.isOlderThan(snakeLinesFrom)) {
         return;
     }
     const int verifyLength = readNumber(text);
-    VANDREL_CHECK_AT(player.snakeLength == verifyLength, "snakeLength == verifyLength", replayInputPos(replayData));
+    VANDREL_CHECK_AT(provesEqual(player.num, verifyLength, player.snakeLength), "snakeLength == verifyLength",
+                     replayInputPos(replayData));
     for (const auto& part : player.parts) {
         const int partX = readNumber(text);
-        VANDREL_CHECK_AT(partX == std::get<0>(part), "verifyX == get<0>(part)", replayInputPos(replayData));
+        VANDREL_CHECK_AT(provesEqual(player.num, partX, std::get<0>(part)), "verifyX == get<0>(part)",
+                         replayInputPos(replayData));
         const int partY = readNumber(text);
-        VANDREL_CHECK_AT(partY == std::get<1>(part), "verifyY == get<1>(part)", replayInputPos(replayData));
+        VANDREL_CHECK_AT(provesEqual(player.num, partY, std::get<1>(part)), "verifyY == get<1>(part)",
+                         replayInputPos(replayData));
     }
 }
 
@@ -76,7 +79,8 @@ void compareCapture(const PackagedReplayData& replayData, int team, int teamScor
         return;
     }
     const bool proved = replayData.isOlderThan(unprovedScoresFrom) || !replayData.isOlderThan(unprovedScoresBelow);
-    const int score = replayData.isOlderThan(wideCaptureScoresFrom) ? readByte(replayData.input) : readInt(replayData.input);
+    const int score =
+        replayData.isOlderThan(wideCaptureScoresFrom) ? readByte(replayData.input) : readInt(replayData.input);
     VANDREL_CHECK(!proved || score == teamScore, "score == teamObj.getScore()");
     if (replayData.inputVerify == nullptr) {
         return;
@@ -88,7 +92,7 @@ void compareCapture(const PackagedReplayData& replayData, int team, int teamScor
     VANDREL_CHECK(txt == "CTFSCORE", "txt == \"CTFSCORE\"");
     VANDREL_CHECK(teamNum == team, "teamNum == team");
     VANDREL_CHECK(!proved || verifyScore == teamScore, "score == teamObj.getScore()");
-    ++counts.captures;
+    ++proof.captures;
 }
 
 }  // namespace
@@ -124,7 +128,5 @@ void verifyEnd(const PackagedReplayData& replayData) {
     *replayData.inputVerify >> end;
     VANDREL_CHECK(end == "END", "end == \"END\"");
 }
-
-const ProofCounts& proofCounts() { return counts; }
 
 }  // namespace vandrel

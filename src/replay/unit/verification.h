@@ -1,8 +1,7 @@
-// The second, independent proof of a replay: the place of every living player after each of its updates, and every capture, as
-// text. `Player` calls these in both directions; each reader stands beside its writer.
+// The second, independent proof of a replay: the place of every living player after each of its updates, and every
+// capture, as text. `Player` calls these in both directions; each reader stands beside its writer.
 #pragma once
 
-#include <cstdint>
 #include <deque>
 #include <tuple>
 
@@ -20,23 +19,17 @@ struct VerifiedPlayer {
     const std::deque<std::tuple<int, int, Facing>>& parts;
 };
 
-// In playback compares with the verification text, if there is one; while recording writes the lines. The caller leaves the dead
-// out, but for replays that hold them. A difference is a failed assertion that names the field and the replay's position.
+// In playback compares with the verification text, if there is one; while recording writes the lines. The caller leaves
+// the dead out, but for replays that hold them. A difference is a failed assertion that names the field and the
+// replay's position.
 void verifyPosition(const PackagedReplayData& replayData, const VerifiedPlayer& player);
 
-// The same for a capture by the team with this index, whose score afterwards is `score`: the score in the replay itself first,
-// then the verification text.
+// The same for a capture by the team with this index, whose score afterwards is `score`: the score in the replay itself
+// first, then the verification text.
 void verifyCapture(const PackagedReplayData& replayData, int team, int score);
 
-// Requires that the verification text ends here; what is left over or missing is a failed assertion. Nothing where there is no
-// text. To be called where the round came to its own end.
+// Requires that the verification text ends here; what is left over or missing is a failed assertion. Nothing where
+// there is no text. To be called where the round came to its own end.
 void verifyEnd(const PackagedReplayData& replayData);
-
-// What was compared since the start of the process, so that a proof which proved nothing can be told from one that held.
-struct ProofCounts {
-    std::int64_t positions = 0;
-    std::int64_t captures = 0;
-};
-const ProofCounts& proofCounts();
 
 }  // namespace vandrel

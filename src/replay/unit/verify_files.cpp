@@ -45,9 +45,13 @@ void writeWholeFile(const std::string& path, const std::string& bytes) {
 
 }  // namespace
 
-std::string plainVerifyPath(const std::string& replayPath) { return replayPath + ".verify"; }
+std::string plainVerifyPath(const std::string& replayPath) {
+    return replayPath + ".verify";
+}
 
-std::string compressedVerifyPath(const std::string& replayPath) { return replayPath + ".verifyZ"; }
+std::string compressedVerifyPath(const std::string& replayPath) {
+    return replayPath + ".verifyZ";
+}
 
 std::shared_ptr<std::istream> openVerifyInput(const std::string& replayPath) {
     if (!verifyEnabled) {

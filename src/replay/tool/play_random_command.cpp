@@ -1,0 +1,163 @@
+// vandrel-replay play-random: records a round of players who press at random.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <boost/algorithm/string.hpp>
+
+#include "match/options/game_options.h"
+#include "match/options/name_tables.h"
+#include "replay/tool/commands.h"
+#include "replay/tool/headless_recording.h"
+#include "replay/tool/option_names.h"
+#include "shell/frame_counter.h"
+#include "shell/switches.h"
+
+namespace vandrel {
+
+namespace {
+
+constexpr int mostPlayers = 100;
+constexpr int defaultFrames = 3600;
+
+struct Request {
+    std::string path;
+    int frames = defaultFrames;
+    int seed = 1;
+    std::vector<std::pair<std::string, int>> settings;  // options by name, in the order given
+};
+
+template <class Table, class NameOf>
+int findName(const Table& table, const std::string& what, const std::string& name, const NameOf& nameOf) {
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (boost::iequals(nameOf(table[i]), name)) {
+            return static_cast<int>(i);
+        }
+    }
+    throw UsageError(fmt::format("there is no {} '{}'", what, name));
+}
+
+GameMode findMode(const std::string& name) {
+    const auto shortName = [](const GameModeName& mode) { return mode.shortName; };
+    const auto longName = [](const GameModeName& mode) { return mode.longName; };
+    const auto isLong = [&](const GameModeName& mode) { return boost::iequals(mode.longName, name); };
+    const bool found = std::any_of(gameModeNames.begin(), gameModeNames.end(), isLong);
+    return static_cast<GameMode>(found ? findName(gameModeNames, "mode", name, longName)
+                                       : findName(gameModeNames, "mode", name, shortName));
+}
+
+void setRate(int rate) {
+    if (rate < 1) {
+        throw UsageError("--rate needs a number of at least 1");
+    }
+    gameOptions.updaterate = rate;
+    gameOptions.frameMultiplier = rate == 120 || rate == 144 ? 2 : 1;
+}
+
+// Leaves only the named powerups to be found.
+void keepPowerups(const std::string& list) {
+    std::vector<std::string> names;
+    boost::split(names, list, [](char c) { return c == ','; });
+    gameOptions.powerupDisabled.fill(true);
+    for (const std::string& name : names) {
+        const int bonus =
+            findName(bonusNames, "powerup", name, [](const BonusName& names_) { return names_.internalName; });
+        gameOptions.powerupDisabled[static_cast<std::size_t>(bonus)] = false;
+    }
+}
+
+void addSetting(Request& request, const std::string& word) {
+    const std::size_t equals = word.find('=');
+    if (equals == std::string::npos) {
+        throw UsageError(fmt::format("--set needs NAME=VALUE, not '{}'", word));
+    }
+    const std::string name = word.substr(0, equals);
+    const int value = parseWholeNumber(name, word.substr(equals + 1));
+    if (!setOptionByName(gameOptions, name, value)) {
+        throw UsageError(fmt::format("there is no option '{}'; there are {}", name, listOptionNames()));
+    }
+    request.settings.emplace_back(name, value);
+}
+
+bool readOption(Request& request, const Words& words, std::size_t& i) {
+    const std::string& word = words[i];
+    if (word == "--mode") {
+        gameOptions.gameMode = findMode(optionValue(words, i));
+    } else if (word == "--players") {
+        gameOptions.numPlayers = optionNumber(words, i);
+    } else if (word == "--arena") {
+        gameOptions.arenaSize =
+            findName(arenaSizes, "arena", optionValue(words, i), [](const ArenaSize& size) { return size.name; });
+    } else if (word == "--seed") {
+        request.seed = optionNumber(words, i);
+    } else if (word == "--frames") {
+        request.frames = optionNumber(words, i);
+    } else if (word == "--rate") {
+        setRate(optionNumber(words, i));
+    } else if (word == "--powerups") {
+        keepPowerups(optionValue(words, i));
+    } else if (word == "--set") {
+        addSetting(request, optionValue(words, i));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+Request readRequest(const Words& words) {
+    Request request;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (readOption(request, words, i)) {
+            continue;
+        }
+        if (boost::starts_with(words[i], "-") || !request.path.empty()) {
+            throw UsageError(fmt::format("unknown word '{}'; see vandrel-replay play-random --help", words[i]));
+        }
+        request.path = words[i];
+    }
+    if (request.path.empty()) {
+        throw UsageError("play-random needs a file to write");
+    }
+    if (gameOptions.numPlayers < 1 || gameOptions.numPlayers > mostPlayers) {
+        throw UsageError(fmt::format("--players needs a number from 1 to {}", mostPlayers));
+    }
+    return request;
+}
+
+int runPlayRandom(const Words& words) {
+    const Request request = readRequest(words);
+    verifyEnabled = true;
+    RandomRoundSettings settings;
+    settings.path = request.path;
+    settings.seed = static_cast<unsigned>(request.seed);
+    // What is set stays set, whatever the automatic options have drawn.
+    settings.adjustResolved = [&] {
+        for (const auto& [name, value] : request.settings) {
+            setOptionByName(gameOptions, name, value);
+        }
+    };
+    HeadlessRecording round(settings);
+    bool over = false;
+    while (!over && frameCounter < request.frames) {
+        over = !round.step();
+    }
+    round.finish();
+    fmt::print("{}: {} frames, {}\n", request.path, static_cast<int>(frameCounter), over ? "round over" : "stopped");
+    return 0;
+}
+
+}  // namespace
+
+const Command playRandomCommand{
+    "play-random", runPlayRandom,
+    "play-random [OPTION...] OUT       record a round of players who press at random\n\n"
+    "Writes the replay OUT and its verification file. The same options give the same round.\n\n"
+    "  --mode NAME         Classic, CTF, \"Battle Royale\", KotH, \"Snake Hunter\", Deathmatch or Everything\n"
+    "  --players N         1 to 100; 2 if not given\n"
+    "  --arena NAME        Tiny, Classic, Normal, Large, ..., or Auto\n"
+    "  --seed N            of the options, the level and the players; 1 if not given\n"
+    "  --frames N          stop after N updates, as a round that is quit; 3600 if not given\n"
+    "  --rate N            updates a second; 60 if not given\n"
+    "  --powerups A,B      only these powerups, by their names in files\n"
+    "  --set NAME=VALUE    any field of the option record, chosen or resolved\n"};
+
+}  // namespace vandrel

@@ -1,0 +1,7 @@
+#include "replay/unit/proof.h"
+
+namespace vandrel {
+
+Proof proof;
+
+}  // namespace vandrel
