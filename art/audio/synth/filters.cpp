@@ -78,15 +78,6 @@ Biquad Biquad::highShelf(double hertz, double decibels, double quality) {
             (high - band * k / quality + k * k) / a0, 2.0 * (k * k - 1.0) / a0, (1.0 - k / quality + k * k) / a0};
 }
 
-Biquad Biquad::lowShelf(double hertz, double decibels, double quality) {
-    const double k = std::tan(pi * hertz / sampleRate);
-    const double low = std::pow(10.0, decibels / 20.0);
-    const double band = std::sqrt(low);
-    const double a0 = 1.0 + k / quality + k * k;
-    return {(1.0 + band * k / quality + low * k * k) / a0, 2.0 * (low * k * k - 1.0) / a0,
-            (1.0 - band * k / quality + low * k * k) / a0, 2.0 * (k * k - 1.0) / a0, (1.0 - k / quality + k * k) / a0};
-}
-
 Biquad Biquad::highPass(double hertz, double quality) {
     const double k = std::tan(pi * hertz / sampleRate);
     const double a0 = 1.0 + k / quality + k * k;

@@ -125,7 +125,8 @@ Signal finished(Signal signal, double seconds, double peakDecibels, double fadeO
     for (std::size_t frame = 0; frame < signal.size(); ++frame) {
         signal[frame] -= sum / weight * ease(frame);
     }
-    return scaled(std::move(signal), gainOf(peakDecibels) / peakOf(signal));
+    const double gain = gainOf(peakDecibels) / peakOf(signal);
+    return scaled(std::move(signal), gain);
 }
 
 }  // namespace vandrel

@@ -141,7 +141,6 @@ void cutRumble(Signal& channel) {
     for (double& value : channel) {
         value = cut.process(value);
     }
-    // The section passes highs with a gain a little off 1, which mastering takes care of.
 }
 
 void scaleBoth(StereoSignal& signal, double factor) {
