@@ -4,6 +4,7 @@
 // A body is a jointed doll: limbs between hip, knee, foot, shoulder, elbow and hand, outlined and laid over each other.
 // The gloves sit where a carried flag's pole will stand: the game's table of hand points, less the frame's bob and 4.
 #include <array>
+#include <cmath>
 #include <string>
 
 #include "images/recipe.h"
@@ -31,14 +32,22 @@ void layPart(Canvas& figure, const Shape& shape, const Ramp& ramp, float roundne
 }
 
 constexpr Ramp cloth{palette::playerLit, palette::playerLit, palette::playerShade};
-constexpr Ramp farCloth{palette::playerShade, palette::playerShade, palette::playerFold};
-constexpr Ramp shoe{palette::playerShade, palette::playerFold, palette::playerFold};
+constexpr Ramp farCloth{palette::playerLit, palette::playerShade, palette::playerShade};
+constexpr Ramp shoe{palette::playerLit, palette::playerShade, palette::playerFold};
 
 void layLimb(Canvas& figure, Point from, Point joint, Point to, float radius, const Ramp& ramp) {
     layPart(figure,
             polyline({{from.x + 0.5f, from.y + 0.5f}, {joint.x + 0.5f, joint.y + 0.5f}, {to.x + 0.5f, to.y + 0.5f}},
                      radius),
-            ramp, 2.0f);
+            ramp, 1.3f);
+}
+
+// An arm ends just short of the hand, so that the glove closes it.
+void layArm(Canvas& figure, Point shoulder, Point elbow, Point hand, float radius, const Ramp& ramp) {
+    const float length = std::hypot(hand.x - elbow.x, hand.y - elbow.y);
+    const float share = length > 2.0f ? (length - 2.0f) / length : 0.0f;
+    layLimb(figure, shoulder, elbow, {elbow.x + (hand.x - elbow.x) * share, elbow.y + (hand.y - elbow.y) * share},
+            radius, ramp);
 }
 
 // A glove of 3 x 3 pixels around the hand point.
@@ -58,7 +67,8 @@ void layShoe(Canvas& figure, int x, int sole, int length) {
 
 void layCollar(Canvas& figure) {
     figure.fillRect(11, 0, 10, 3, palette::ink);
-    figure.fillRect(12, 0, 8, 3, palette::playerShade);
+    figure.fillRect(12, 0, 8, 3, palette::playerLit);
+    figure.fillRect(12, 2, 8, 1, palette::playerFold);
 }
 
 void layBelt(Canvas& figure, int left, int width, int row) {
@@ -67,7 +77,7 @@ void layBelt(Canvas& figure, int left, int width, int row) {
 }
 
 void layTunic(Canvas& figure, const Shape& tunic, int beltLeft, int beltWidth) {
-    layPart(figure, tunic, cloth, 3.5f);
+    layPart(figure, tunic, cloth, 1.8f);
     layBelt(figure, beltLeft, beltWidth, 14);
     layCollar(figure);
 }
@@ -92,14 +102,14 @@ Canvas frontBody(int frame, bool seam) {
         layLimb(figure, {hip, 17}, {foot, (17 + ground) / 2}, {foot, ground}, 2.6f, up > 1 ? farCloth : cloth);
         layShoe(figure, left ? 8 : 17, sole - up, 7);
     }
-    layLimb(figure, {10, 5}, {6, 10}, otherHand[index], 2.1f, cloth);
+    layArm(figure, {10, 5}, {6, 10}, otherHand[index], 2.1f, cloth);
     layGlove(figure, otherHand[index]);
     layTunic(figure, polygon({{11, 2}, {21, 2}, {24, 5}, {23.5f, 13}, {24, 19}, {8, 19}, {8.5f, 13}, {8, 5}}), 9, 14);
     if (seam) {
         figure.fillRect(15, 4, 1, 9, palette::playerFold);
         figure.fillRect(15, 17, 1, 2, palette::playerFold);
     }
-    layLimb(figure, {21, 5}, {24, 10}, handFromFront[index], 2.1f, cloth);
+    layArm(figure, {21, 5}, {24, 10}, handFromFront[index], 2.1f, cloth);
     layGlove(figure, handFromFront[index]);
     return figure;
 }
@@ -129,13 +139,13 @@ Canvas sideBody(int frame) {
     };
     // The far hand swings against the near one.
     const Point farHand{31.0f - hand.x - (hand.x < 10 ? 1.0f : 3.0f), 13};
-    layLimb(figure, {16, 6}, {(16 + farHand.x) / 2, 11}, farHand, 1.9f, farCloth);
+    layArm(figure, {16, 6}, {(16 + farHand.x) / 2, 11}, farHand, 1.9f, cloth);
     layGlove(figure, farHand);
-    layLeg(pose.farKnee, pose.farHeel, pose.farLift, farCloth);
+    layLeg(pose.farKnee, pose.farHeel, pose.farLift, cloth);
     layLeg(pose.nearKnee, pose.nearHeel, pose.nearLift, cloth);
     layTunic(figure, polygon({{11, 2}, {20, 2}, {22, 5}, {22, 19}, {10, 19}, {10, 5}}), 11, 10);
     const Point elbow{(15 + hand.x) / 2 + (hand.x > 16 ? 1.0f : -1.0f), 12};
-    layLimb(figure, {15, 5}, elbow, hand, 2.0f, cloth);
+    layArm(figure, {15, 5}, elbow, hand, 2.0f, cloth);
     layGlove(figure, hand);
     return figure;
 }
@@ -149,8 +159,8 @@ Canvas handsetBody() {
         layShoe(figure, left ? 8 : 17, sole, 7);
     }
     layTunic(figure, polygon({{11, 2}, {21, 2}, {24, 5}, {23.5f, 13}, {24, 19}, {8, 19}, {8.5f, 13}, {8, 5}}), 9, 14);
-    layLimb(figure, {9, 5}, {6, 11}, {10, 12}, 2.1f, cloth);
-    layLimb(figure, {22, 5}, {25, 11}, {21, 12}, 2.1f, cloth);
+    layArm(figure, {9, 5}, {6, 11}, {10, 12}, 2.1f, cloth);
+    layArm(figure, {22, 5}, {25, 11}, {21, 12}, 2.1f, cloth);
     Canvas box(size, size);
     box.fillRect(12, 8, 8, 7, palette::steelMiddle);
     box.fillRect(12, 8, 7, 2, palette::steelLight);
@@ -170,20 +180,20 @@ Canvas crawlingBody(int frame) {
     Canvas figure(size, size);
     const bool reaching = frame == 0;
     layLimb(figure, {11, 22}, {reaching ? 8.0f : 13.0f, 28}, {reaching ? 3.5f : 6.5f, 28}, 2.3f, farCloth);
-    const Point farHand{reaching ? 19.0f : 27.0f, 29};
-    layLimb(figure, {24, 22}, {reaching ? 20.0f : 26.0f, 25}, farHand, 2.0f, farCloth);
+    const Point farHand{reaching ? 18.0f : 27.0f, 29};
+    layArm(figure, {23, 21}, {reaching ? 19.0f : 26.0f, 25}, farHand, 2.0f, farCloth);
     layGlove(figure, farHand);
     Canvas trunk(size, size);
-    fillLit(trunk, unite(ellipse(12, 20.5f, 8.5f, 6.2f), rectangle(12, 15, 22, 11)), cloth, 4);
+    fillLit(trunk, unite(ellipse(12, 20.5f, 8.5f, 6.2f), rectangle(12, 15, 22, 11)), cloth, 3);
     trunk.outline();
     figure.draw(trunk);
     figure.fillRect(11, 15, 2, 11, palette::skinDark);
     figure.fillRect(29, 15, 3, 11, palette::playerShade);
-    const Point nearKnee{reaching ? 14.0f : 9.0f, 28};
+    const Point nearKnee{reaching ? 15.0f : 11.0f, 28};
     layLimb(figure, {11, 22}, nearKnee, {nearKnee.x - 5, 28}, 2.4f, cloth);
     layPart(figure, rectangle(nearKnee.x - 8, 26, 4, 5, 1.2f), shoe, 2);
-    const Point nearHand{reaching ? 28.0f : 20.0f, 29};
-    layLimb(figure, {25, 19}, {reaching ? 26.0f : 21.0f, 24}, nearHand, 2.1f, cloth);
+    const Point nearHand{reaching ? 27.0f : 19.0f, 29};
+    layArm(figure, {24, 19}, {reaching ? 25.0f : 20.0f, 24}, nearHand, 2.1f, cloth);
     layGlove(figure, nearHand);
     return figure;
 }

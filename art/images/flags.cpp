@@ -14,7 +14,7 @@ namespace {
 constexpr int frames = 6;
 constexpr int poleColumn = 12;
 constexpr int firstCloth = 14, lastCloth = 29;  // one column of ink on either side
-constexpr int clothTop = 4, clothHeight = 10, foldLength = 5;
+constexpr int clothTop = 4, clothHeight = 10, foldLength = 3, foldInset = 1;
 constexpr float wavesOnCloth = 1.15f;
 
 // How far the cloth hangs above or below its middle line in a column. It is tied at the pole and swings free at the
@@ -40,7 +40,8 @@ Canvas flag(int frame) {
             firstCloth + static_cast<int>(std::lround(along * static_cast<float>(lastCloth - firstCloth)));
         if (column > firstCloth + 1 && column < lastCloth - 1) {
             const bool trough = half % 2 == 0;
-            const int first = clothTop + waveAt(column, frame) + (trough ? 0 : clothHeight - foldLength);
+            const int first =
+                clothTop + waveAt(column, frame) + (trough ? foldInset : clothHeight - foldLength - foldInset);
             canvas.fillRect(column, first, 1, foldLength, palette::ink);
         }
     }

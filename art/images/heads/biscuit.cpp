@@ -4,6 +4,8 @@
 namespace vandrel::art {
 namespace {
 
+constexpr Colour ginger{220, 120, 48};
+
 void layLens(Canvas& head, float x, float y, Lids lids) {
     fill(head, circle(x, y, 5.0f), palette::ink);
     fill(head, circle(x, y, 3.9f), lids == Lids::Open ? palette::iceWhite : palette::iceLight);
@@ -17,25 +19,28 @@ void layLens(Canvas& head, float x, float y, Lids lids) {
 }
 
 Canvas front(Lids lids) {
-    Canvas head = frontSkull(tannedSkin);
+    Canvas head = frontSkull(paleSkin);
     layLens(head, 10.5f, 19.5f, lids);
     layLens(head, 21.5f, 19.5f, lids);
     head.line(15, 19, 16, 19, palette::ink);
+    fill(head, rectangle(4, 14, 3, 5, 1), ginger);
+    fill(head, rectangle(25, 14, 3, 5, 1), ginger);
     layMarks(head, 13, 25, {"######", ".wwww."});
     for (const int x : {6, 8, 23, 25}) {
-        head.set(x, 25, tannedSkin.dark);
+        head.set(x, 25, paleSkin.dark);
     }
     layFrontCap(head);
     return head;
 }
 
 Canvas right(Lids lids) {
-    Canvas head = sideSkull(tannedSkin);
+    Canvas head = sideSkull(paleSkin);
+    fill(head, rectangle(4, 14, 7, 8, 2.5f), ginger);
     layLens(head, 21.5f, 19.5f, lids);
     head.line(11, 18, 16, 18, palette::ink);
     layMarks(head, 20, 25, {"#####", ".www."});
-    head.set(16, 24, tannedSkin.dark);
-    head.set(18, 25, tannedSkin.dark);
+    head.set(16, 24, paleSkin.dark);
+    head.set(18, 25, paleSkin.dark);
     laySideCap(head);
     return head;
 }
@@ -43,7 +48,7 @@ Canvas right(Lids lids) {
 }  // namespace
 
 Pictures paintFamily() {
-    return headSet({"Head1", tannedSkin, front, right});
+    return headSet({"Head1", paleSkin, front, right});
 }
 
 }  // namespace vandrel::art

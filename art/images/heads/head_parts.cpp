@@ -4,13 +4,17 @@ namespace vandrel::art {
 namespace {
 
 constexpr int size = 32;
+constexpr int firstColumn = 3, columns = 26, firstRow = 2, rows = 26;
 constexpr int neckLeft = 11, neckWidth = 10;
 constexpr int standingDrop = 2;  // a head sits low between the shoulders
 constexpr int crawlDrop = 3;     // and lower still with its chin on the ground
 
-Canvas outlined(Canvas head) {
-    head.outline();
-    return head;
+// Cuts off what would touch the picture's edge once the outline is on and the head sways.
+Canvas outlined(const Canvas& head) {
+    Canvas trimmed(size, size);
+    trimmed.draw(head.cropped(firstColumn, firstRow, columns, rows), firstColumn, firstRow);
+    trimmed.outline();
+    return trimmed;
 }
 
 // The neck stands still while the head sways over it.
@@ -50,7 +54,7 @@ Pictures headSet(const Character& character) {
     };
     const auto addSide = [&](const std::string& side, const HeadPainter& paint, int ahead) {
         add(side + "_0", paint, Lids::Open, 0, 0);
-        add(side + "_14", paint, Lids::Open, 0, 1);
+        add(side + "_14", paint, Lids::Open, 0, -1);
         add(side + "_23", paint, Lids::Open, ahead, 0);
         add(side + "_56", paint, Lids::Shut, 0, 0);
     };

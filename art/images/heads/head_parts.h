@@ -2,7 +2,7 @@
 // Each file beside this one is a character: it paints a front, a side and perhaps a back, and headSet() makes the
 // frames of them.
 //
-// A head is painted in rows 2 to 27 and columns 4 to 27; ears and hats may reach columns 2 and 29. headSet adds the ink
+// A head is painted in rows 2 to 27 and columns 4 to 27; ears and hats may reach columns 3 and 28. headSet adds the ink
 // outline, sets the head two rows lower and puts it on a neck (columns 11 to 20, down to row 31) that does not tilt.
 #pragma once
 
