@@ -1,0 +1,87 @@
+#include "presentation/text.h"
+
+#include <allegro5/allegro_font.h>
+#include <allegro5/allegro_ttf.h>
+#include <gtest/gtest.h>
+
+#include <list>
+#include <memory>
+#include <stdexcept>
+
+#include "presentation/drawing.h"
+#include "presentation/toasts_drawing.h"
+#include "support/drawing_stage.h"
+
+namespace vandrel {
+namespace {
+
+// A working directory without the font file: the platform's own font is all there is.
+class Text : public DrawingTest {
+  protected:
+    Text() : canvas_(200, 60, true) {
+        al_init_font_addon();
+        al_init_ttf_addon();
+        clearToBlack(canvas_);
+    }
+
+    struct Box {
+        int left = 1000;
+        int right = -1;
+        int top = 1000;
+        int bottom = -1;
+    };
+    Box inkedBox() const {
+        Box box;
+        for (int y = 0; y < canvas_.height(); ++y) {
+            for (int x = 0; x < canvas_.width(); ++x) {
+                if (pixelAt(canvas_, x, y) == RGB{255, 255, 255}) {
+                    box = {std::min(box.left, x), std::max(box.right, x), std::min(box.top, y),
+                           std::max(box.bottom, y)};
+                }
+            }
+        }
+        return box;
+    }
+
+    BitmapWrapper canvas_;
+};
+
+TEST_F(Text, AMissingFontFileIsFatal) {
+    try {
+        loadFonts();
+        FAIL() << "found a font";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "Error loading fonts!");
+    }
+}
+
+TEST_F(Text, IsPlacedByItsTopAndItsLeftEdgeOrMiddle) {
+    EXPECT_THROW(loadFonts(), std::runtime_error);
+    const ALLEGRO_COLOR white = al_map_rgb(255, 255, 255);
+    drawText(canvas_, FontId::Builtin, 50, 20, white, "HHHH");
+    Box box = inkedBox();
+    EXPECT_NEAR(box.left, 50, 1);
+    EXPECT_NEAR(box.right, 50 + 4 * 8 - 1, 2);
+    EXPECT_GE(box.top, 20);
+    EXPECT_LE(box.bottom, 28);
+
+    clearToBlack(canvas_);
+    drawText(canvas_, FontId::Builtin, 100, 20, white, "HHHH", alignCentre);
+    box = inkedBox();
+    EXPECT_NEAR(box.left + box.right, 200, 3);
+}
+
+TEST_F(Text, ToastsAreCentredAndTruncated) {
+    EXPECT_THROW(loadFonts(), std::runtime_error);
+    std::list<std::unique_ptr<Toast>> toasts;
+    toasts.push_back(
+        std::make_unique<Toast>("-17", Vector2Base<float>{60.9f, 30.9f}, Vector2Base<float>{}, FontId::Builtin));
+    drawToasts(toasts, canvas_);
+    const Box box = inkedBox();
+    EXPECT_NEAR(box.left + box.right, 120, 3);
+    EXPECT_GE(box.top, 30);
+    EXPECT_LE(box.bottom, 38);
+}
+
+}  // namespace
+}  // namespace vandrel
