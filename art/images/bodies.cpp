@@ -33,7 +33,7 @@ void layPart(Canvas& figure, const Shape& shape, const Ramp& ramp, float roundne
 
 constexpr Ramp cloth{palette::playerLit, palette::playerLit, palette::playerShade};
 constexpr Ramp farCloth{palette::playerLit, palette::playerShade, palette::playerShade};
-constexpr Ramp shoe{palette::playerLit, palette::playerShade, palette::playerFold};
+constexpr Ramp shoe{palette::playerLit, palette::playerLit, palette::playerFold};
 
 void layLimb(Canvas& figure, Point from, Point joint, Point to, float radius, const Ramp& ramp) {
     layPart(figure,

@@ -51,8 +51,6 @@ void paintBall(Canvas& canvas, float radius, int glow) {
     }
     fill(canvas, rotated(ellipse(middleX - 4.5f, middleY - 4.8f, 3.4f, 2.0f), middleX - 4.5f, middleY - 4.8f, -0.75f),
          palette::steelLight);
-    canvas.set(10, static_cast<int>(middleY), rimLit);
-    canvas.set(9, static_cast<int>(middleY) + 1, rimShade);
 }
 
 Canvas bomb(int frame) {

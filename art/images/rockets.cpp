@@ -22,8 +22,9 @@ Canvas rocket() {
         fill(canvas, grown(fin, 0.9f), palette::steelMiddle);
         fill(canvas, fin, palette::black);
     }
-    fill(canvas, circle(18.5f, 15.5f, 2.2f), palette::ink);
-    fill(canvas, circle(18.5f, 15.5f, 1.3f), palette::iceLight);
+    fill(canvas, circle(19, 16, 2.6f), palette::ink);
+    fill(canvas, circle(19, 16, 1.6f), palette::iceLight);
+    canvas.set(18, 15, palette::white);
     fill(canvas, polygon({{9, 13}, {4, 13.2f}, {5, 15}, {1.5f, 16}, {5, 17}, {4, 18.8f}, {9, 19}}),
          palette::fireOrange);
     fill(canvas, polygon({{9, 14}, {6, 14.6f}, {3.5f, 16}, {6, 17.4f}, {9, 18}}), palette::fireYellow);

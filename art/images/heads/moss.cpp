@@ -15,7 +15,7 @@ Canvas front(Lids lids) {
     for (const int x : {7, 11, 20, 24}) {
         head.line(x, 24, x, 26, beard.dark);
     }
-    layMarks(head, 13, 24, {".####.", "#rrrr#", ".####."});
+    layMarks(head, 13, 24, {"######", "#wwww#", ".####."});
     fill(head, ellipse(16, 21.5f, 2.4f, 1.7f), tannedSkin.dark);
     fill(head, ellipse(15.6f, 21.2f, 1.8f, 1.2f), palette::skinLight);
     layFrontCap(head);
@@ -31,7 +31,7 @@ Canvas right(Lids lids) {
     for (const int x : {12, 15, 18, 21}) {
         head.line(x, 23, x - 1, 26, beard.dark);
     }
-    layMarks(head, 22, 22, {"#rr#", ".##."});
+    layMarks(head, 21, 22, {"####", "#ww#", ".##."});
     laySideCap(head);
     return head;
 }
