@@ -22,8 +22,8 @@ Signal resonantFilter(Pass pass, const Signal& source, double cutoff, double res
 class Biquad {
   public:
     Biquad(double b0, double b1, double b2, double a1, double a2) : b0_(b0), b1_(b1), b2_(b2), a1_(a1), a2_(a2) {}
-    // A shelf above `hertz` by `decibels`, and a cut below `hertz`, both as the loudness measure prescribes them. What the cut
-    // passes is a little louder than before: by less than a tenth of a decibel for cuts below 100 hertz.
+    // A shelf above `hertz` by `decibels`, and a cut below `hertz`, both as the loudness measure prescribes them. What
+    // the cut passes is a little louder than before: by less than a tenth of a decibel for cuts below 100 hertz.
     static Biquad highShelf(double hertz, double decibels, double quality);
     static Biquad highPass(double hertz, double quality);
     double process(double in) {
