@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -200,6 +202,22 @@ TEST_F(Sound, FilesThatAreMissingOrBroken) {
     std::ofstream("newSound/Gong2.wav") << "not a sound";
     EXPECT_EQ(failureOf([] { initSound(60, 100); }), "Error loading newSound/Gong2.wav");
     shutdownSound();
+}
+
+// With no server and no device. In a process of its own, since the library keeps the system that it found first.
+TEST(SoundDeathTest, NoSoundSystem) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto bringUp = [] {
+        setenv("PULSE_SERVER", "unix:/nowhere", 1);
+        setenv("ALSA_CONFIG_PATH", "/dev/null", 1);
+        setenv("ALSOFT_DRIVERS", "-all", 1);
+        al_install_system(ALLEGRO_VERSION_INT, nullptr);
+        const std::string failure = failureOf([] { initSound(60, 100); });
+        shutdownSound();
+        std::fprintf(stderr, "it says: %s.\n", failure.c_str());
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(bringUp(), testing::ExitedWithCode(0), "it says: Error initialising sound system\\.");
 }
 
 // The thread that fades, and the main thread that plays, at full tilt: what the thread sanitizer looks at.
