@@ -131,7 +131,7 @@ class PaintedRound {
         game_->update(roundOver, replayEnded, nullptr);
         ++frameCounter;
     }
-    void paint() { drawGame(*game_, false); }
+    void paint() { drawGame(*game_, *screen, false); }
 
   private:
     std::unique_ptr<Game> game_;

@@ -15,7 +15,6 @@
 #include "presentation/drawing.h"
 #include "presentation/toasts_drawing.h"
 #include "shell/accessibility.h"
-#include "shell/game_screen.h"
 
 namespace vandrel {
 
@@ -78,7 +77,7 @@ void drawSparks(const BitmapWrapper& target) {
 
 }  // namespace
 
-void drawGameInto(Game& game, const BitmapWrapper& target, bool forJoinScreen) {
+void drawGame(Game& game, const BitmapWrapper& target, bool forJoinScreen) {
     clearTo(target, toColour(backgroundOf(game, forJoinScreen)));
     const DrawingBatch batch(target);
     if (!forJoinScreen) {
@@ -99,10 +98,6 @@ void drawGameInto(Game& game, const BitmapWrapper& target, bool forJoinScreen) {
     drawSparks(target);
     drawAnnouncedWalls(game, target);
     drawToasts(game.toasts, target);
-}
-
-void drawGame(Game& game, bool forJoinScreen) {
-    drawGameInto(game, *screen, forJoinScreen);
 }
 
 }  // namespace vandrel

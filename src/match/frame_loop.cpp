@@ -43,7 +43,7 @@ FrameLoopWorld realWorld() {
     world.pollDevices = [] { theControlsManager->poll(); };
     world.fastForwardToggled = [] { return wasKeyReleased(ALLEGRO_KEY_F8); };
     world.pause = [](const std::shared_ptr<Music>& music) { return pauseCheck() && pauseMenu(music, false); };
-    world.paint = [](Game& game) { drawGame(game, false); };
+    world.paint = [](Game& game) { drawGame(game, *screen, false); };
     world.writeOverlay = [](const std::string& text, int y) { drawCornerText(text, y, FontId::Builtin); };
     world.writeTimings = [](const std::string& text) { drawCornerText(text, 0, timingFont()); };
     world.writeFrameRate = [] { drawFrameRate(FontId::Builtin); };

@@ -68,7 +68,7 @@ class GameDrawing : public DrawingTest {
         frameCounter = 0;
     }
 
-    void paint(bool forJoinScreen = false) { drawGameInto(*game_, *canvas_, forJoinScreen); }
+    void paint(bool forJoinScreen = false) { drawGame(*game_, *canvas_, forJoinScreen); }
     // In the middle of a square, or beside it.
     RGB at(int x, int y, int dx = 0, int dy = 0) const {
         return pixelAt(*canvas_, x * squareSize + 16 + dx, y * squareSize + 16 + dy);
