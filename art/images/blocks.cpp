@@ -46,7 +46,7 @@ Canvas steelPlate(bool crossed) {
     return canvas;
 }
 
-Canvas stonePillar(std::uint32_t seed) {
+Canvas stonePillar(std::uint32_t seed, bool cracked) {
     constexpr Colour top{140, 136, 130};
     Canvas canvas(size, size, palette::stoneDark);
     paintBevel(canvas, 0, palette::stoneMiddle, {44, 42, 48});
@@ -60,8 +60,10 @@ Canvas stonePillar(std::uint32_t seed) {
         const int x = 6 + dice.below(19), y = 6 + dice.below(16);
         canvas.line(x, y, x + 1 + dice.below(2), y, dice.chance(0.5f) ? palette::stoneLight : palette::stoneMiddle);
     }
-    canvas.line(20, 6, 17, 10, palette::stoneDark);
-    canvas.line(17, 10, 19, 13, palette::stoneDark);
+    if (cracked) {
+        canvas.line(20, 6, 17, 10, palette::stoneDark);
+        canvas.line(17, 10, 19, 13, palette::stoneDark);
+    }
     return canvas;
 }
 
@@ -69,9 +71,9 @@ Canvas stonePillar(std::uint32_t seed) {
 
 Pictures paintFamily() {
     return {{"Block1", steelPlate(true)},
-            {"Block2", stonePillar(7)},
+            {"Block2", stonePillar(7, true)},
             {"Block3", steelPlate(false)},
-            {"Block4", stonePillar(3)}};
+            {"Block4", stonePillar(3, false)}};
 }
 
 }  // namespace vandrel::art

@@ -42,7 +42,7 @@ void paintBall(Canvas& canvas, float radius, int glow) {
     const Shape ball = circle(middleX, middleY, radius);
     fill(canvas, ball, rimShade);
     fill(canvas, subtract(ball, circle(middleX + 2.2f, middleY + 2.2f, radius)), rimLit);
-    fill(canvas, circle(middleX, middleY, radius - 1.1f), palette::black);
+    fill(canvas, circle(middleX + 0.3f, middleY + 0.3f, radius - 1.5f), palette::black);
     // The glow eats upwards from the ground, hottest at the rim.
     static constexpr Colour heat[] = {palette::fireRed, palette::fireOrange, palette::fireYellow};
     for (int ring = 0; ring < 3 && glow > ring * 2; ++ring) {

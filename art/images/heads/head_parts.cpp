@@ -4,7 +4,7 @@ namespace vandrel::art {
 namespace {
 
 constexpr int size = 32;
-constexpr int firstColumn = 3, columns = 26, firstRow = 2, rows = 26;
+constexpr int firstColumn = 3, columnsUsed = 26, firstRow = 2, rowsUsed = 26;
 constexpr int neckLeft = 11, neckWidth = 10;
 constexpr int standingDrop = 2;  // a head sits low between the shoulders
 constexpr int crawlDrop = 3;     // and lower still with its chin on the ground
@@ -12,7 +12,7 @@ constexpr int crawlDrop = 3;     // and lower still with its chin on the ground
 // Cuts off what would touch the picture's edge once the outline is on and the head sways.
 Canvas outlined(const Canvas& head) {
     Canvas trimmed(size, size);
-    trimmed.draw(head.cropped(firstColumn, firstRow, columns, rows), firstColumn, firstRow);
+    trimmed.draw(head.cropped(firstColumn, firstRow, columnsUsed, rowsUsed), firstColumn, firstRow);
     trimmed.outline();
     return trimmed;
 }
@@ -168,9 +168,9 @@ void layEye(Canvas& head, int x, int y, Lids lids, Colour lid, int width, bool l
 }
 
 void layMarks(Canvas& head, int x, int y, const PixelRows& rows) {
-    static const Legend marks{
+    static const Legend inks{
         {'#', palette::ink}, {'w', palette::white}, {'r', palette::fireRed}, {'p', {232, 140, 112}}};
-    drawMap(head, x, y, marks, rows);
+    drawMap(head, x, y, inks, rows);
 }
 
 }  // namespace vandrel::art
