@@ -77,18 +77,15 @@ bool HeadlessPlayback::step() {
 }
 
 void HeadlessPlayback::requireAllPlayed() {
-    std::streambuf& bytes = *data_.input->rdbuf();
-    std::streamsize left = 0;
-    int next = bytes.sbumpc();
-    // A playback that met the end mark may have taken it, or only seen it.
-    if (next == replayEndMark) {
-        next = bytes.sbumpc();
-    } else if (end_ == PlaybackEnd::RoundOver) {
+    std::istream& input = *data_.input;
+    // A playback that met the end mark may have taken it or only seen it; no record ends with such a byte.
+    input.seekg(-1, std::ios::cur);
+    if (readByte(&input) != replayEndMark && readByte(&input) != replayEndMark) {
         throw std::runtime_error("the round ended where the replay has no end mark");
     }
-    for (; next != std::char_traits<char>::eof(); next = bytes.sbumpc()) {
-        ++left;
-    }
+    const std::streamoff end = input.tellg();
+    input.seekg(0, std::ios::end);
+    const std::streamoff left = input.tellg() - end;
     if (left > 0) {
         throw std::runtime_error(fmt::format("{} bytes of the replay are left over", left));
     }

@@ -21,7 +21,7 @@ HeadlessRecording::HeadlessRecording(const RandomRoundSettings& settings) : back
     std::vector<std::shared_ptr<Controls>> devices;
     for (int i = 0; i < gameOptions.numPlayers; ++i) {
         const unsigned seed = settings.seed * 1000U + static_cast<unsigned>(i);
-        devices_.push_back(std::make_shared<RandomControls>(seed));
+        devices_.push_back(std::make_shared<RandomControls>(seed, settings.bombsEvery));
         devices.push_back(devices_.back());
     }
     clearMatch();

@@ -23,6 +23,7 @@ struct Request {
     std::string path;
     int frames = defaultFrames;
     int seed = 1;
+    int bombsEvery = 30;
     std::vector<std::pair<std::string, int>> settings;  // options by name, in the order given
 };
 
@@ -91,6 +92,8 @@ bool readOption(Request& request, const Words& words, std::size_t& i) {
         request.seed = optionNumber(words, i);
     } else if (word == "--frames") {
         request.frames = optionNumber(words, i);
+    } else if (word == "--bombs-every") {
+        request.bombsEvery = optionNumber(words, i);
     } else if (word == "--rate") {
         setRate(optionNumber(words, i));
     } else if (word == "--powerups") {
@@ -128,6 +131,7 @@ int runPlayRandom(const Words& words) {
     verifyEnabled = true;
     RandomRoundSettings settings;
     settings.path = request.path;
+    settings.bombsEvery = request.bombsEvery;
     settings.seed = static_cast<unsigned>(request.seed);
     // What is set stays set, whatever the automatic options have drawn.
     settings.adjustResolved = [&] {
@@ -156,6 +160,7 @@ const Command playRandomCommand{
     "  --arena NAME        Tiny, Classic, Normal, Large, ..., or Auto\n"
     "  --seed N            of the options, the level and the players; 1 if not given\n"
     "  --frames N          stop after N updates, as a round that is quit; 3600 if not given\n"
+    "  --bombs-every N     frames from bomb to bomb of a player, on average; 0 for no bombs; 30 if not given\n"
     "  --rate N            updates a second; 60 if not given\n"
     "  --powerups A,B      only these powerups, by their names in files\n"
     "  --set NAME=VALUE    any field of the option record, chosen or resolved\n"};

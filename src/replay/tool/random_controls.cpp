@@ -12,7 +12,6 @@ void RandomControls::advance() {
     constexpr int longestLeg = 40;  // frames in one direction
     constexpr int oneStandStillIn = 10;
     constexpr int oneDiagonalIn = 12;
-    constexpr int onePressIn = 30;    // frames, on average
     constexpr int longestPress = 12;  // frames; some presses steer or hold for longer than a tap
     constexpr int oneButton2In = 40;
     if (--legFrames_ < 1) {
@@ -24,7 +23,7 @@ void RandomControls::advance() {
         x_ = !stands && (horizontal || diagonal) ? direction : 0;
         y_ = !stands && (!horizontal || diagonal) ? direction : 0;
     }
-    if (--bombFrames_ < 1 && draw(onePressIn) == 0) {
+    if (--bombFrames_ < 1 && onePressIn_ > 0 && draw(onePressIn_) == 0) {
         bombFrames_ = draw(longestPress) + 1;
     }
     button2_ = draw(oneButton2In) == 0;

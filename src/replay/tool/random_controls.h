@@ -9,8 +9,9 @@ namespace vandrel {
 
 class RandomControls final : public Controls {
   public:
-    // The same seed presses the same keys, on any machine.
-    explicit RandomControls(unsigned seed) : generator_(seed) {}
+    // The same seed presses the same keys, on any machine. The fire control is pressed once in `onePressIn` frames on average; 0
+    // for never.
+    explicit RandomControls(unsigned seed, int onePressIn) : generator_(seed), onePressIn_(onePressIn) {}
 
     // To be called once before each update.
     void advance();
@@ -30,6 +31,7 @@ class RandomControls final : public Controls {
     int draw(int count);
 
     std::mt19937 generator_;
+    int onePressIn_;
     int x_ = 0;
     int y_ = 0;
     int legFrames_ = 0;

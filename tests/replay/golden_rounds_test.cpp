@@ -1,0 +1,228 @@
+// The golden rounds: each plays as it was recorded, in any order, and together they reach all that a round can be. The proof itself is
+// tested with faults planted in one of them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "arena/arena.h"
+#include "match/options/name_tables.h"
+#include "players/player.h"
+#include "replay/tool/commands.h"
+#include "replay/tool/headless_playback.h"
+#include "replay/unit/gzip.h"
+#include "replay/unit/proof.h"
+#include "replay_bytes.h"
+#include "shell/frame_counter.h"
+#include "shell/log.h"
+
+namespace vandrel {
+namespace {
+
+const std::string goldenFolder = VANDREL_SOURCE_DIR "/tests/replays";
+
+// What rounds have been seen to be and to do.
+struct Reached {
+    std::set<int> modes;
+    std::set<std::pair<int, int>> arenas;
+    std::set<int> shrinkStyles;
+    std::set<int> rates;
+    std::set<std::string> powerups;
+    std::set<std::string> events;
+
+    void look(const Game& game) {
+        for (const auto& toast : game.toasts) {
+            for (const BonusName& bonus : bonusNames) {
+                if (toast->text.starts_with(bonus.displayName)) {
+                    powerups.emplace(bonus.displayName);
+                }
+            }
+            note(toast->text.starts_with("Bid: "), "bid");
+            note(toast->text == "Flag recovered", "flag recovered");
+        }
+        note(game.auction != nullptr, "auction");
+        note(!game.pendingWalls.empty(), "respawning wall");
+        note(game.shrinkState == ShrinkState::Finished, "walls closed");
+        for (const auto& player : players) {
+            note(player->isSnake(), player->isAI ? "snake of the computer" : "human snake");
+            note(player->crawling && player->reviveProgress > 0, "rescue");
+            note(player->isAI && player->slowTimer > 0, "major stun");
+        }
+        for (const Flag& flag : game.flags) {
+            note(!flag.carrier.expired(), "flag carried");
+        }
+    }
+
+    void note(bool happens, const char* what) {
+        if (happens) {
+            events.insert(what);
+        }
+    }
+};
+
+void playAll(const std::vector<std::string>& paths, Reached* reached) {
+    for (const std::string& path : paths) {
+        SCOPED_TRACE(path);
+        proof = Proof{};
+        HeadlessPlayback playback(path);
+        if (reached != nullptr) {
+            reached->modes.insert(static_cast<int>(gameOptions.gameMode));
+            reached->arenas.emplace(grid_squares_x, grid_squares_y);
+            reached->shrinkStyles.insert(gameOptions.shrinkStyleResolved.value());
+            reached->rates.insert(gameOptions.updaterate);
+        }
+        bool runs = true;
+        while (runs) {
+            ASSERT_NO_THROW(runs = playback.step()) << "frame " << frameCounter;
+            if (reached != nullptr) {
+                reached->look(playback.game());
+            }
+        }
+        playback.requireAllPlayed();
+        ASSERT_NO_THROW(playback.finish());
+        EXPECT_GT(proof.positions, 0);
+        EXPECT_GE(proof.positions, proof.inputs) << "whoever gives input is compared";
+        if (reached != nullptr) {
+            reached->note(playback.end() == PlaybackEnd::RoundOver, "round over");
+            reached->note(playback.end() == PlaybackEnd::EndMark, "quit");
+            reached->note(proof.captures > 0, "capture");
+        }
+    }
+}
+
+TEST(GoldenRounds, holdInEitherOrderAndTogetherReachEverything) {
+    setDebugOutput(nullptr);
+    std::vector<std::string> paths = findReplays({goldenFolder});
+    EXPECT_GE(paths.size(), 40U);
+    Reached reached;
+    playAll(paths, &reached);
+    std::reverse(paths.begin(), paths.end());
+    playAll(paths, nullptr);
+
+    EXPECT_EQ(reached.modes.size(), gameModeNames.size());
+    for (std::size_t i = 1; i < arenaSizes.size(); ++i) {
+        EXPECT_TRUE(reached.arenas.contains({arenaSizes[i].width, arenaSizes[i].height})) << arenaSizes[i].name;
+    }
+    EXPECT_EQ(reached.shrinkStyles, (std::set<int>{1, 2, 3}));
+    EXPECT_EQ(reached.rates, (std::set<int>{30, 60, 120, 144}));
+    for (const BonusName& bonus : bonusNames) {
+        if (bonus.internalName != "None" && bonus.internalName != "Death") {
+            EXPECT_TRUE(reached.powerups.contains(std::string(bonus.displayName))) << bonus.displayName;
+        }
+    }
+    for (const char* event : {"auction", "bid", "respawning wall", "walls closed", "snake of the computer", "human snake",
+                              "major stun", "rescue", "flag carried", "flag recovered", "capture", "round over", "quit"}) {
+        EXPECT_TRUE(reached.events.contains(event)) << event;
+    }
+}
+
+// A golden round in a folder of its own, to be damaged.
+class PlantedFault : public testing::Test {
+  protected:
+    void SetUp() override {
+        setDebugOutput(nullptr);
+        path_ = folder_.file("10.replay");
+        bytes_ = readFile(goldenFolder + "/10.1.1.2.replay");
+        text_ = gzipDecompress(readFile(goldenFolder + "/10.1.1.2.replay.verifyZ"));
+        verifyPlainText();
+    }
+
+    void verifyPlainText() { writeFile(path_ + ".verify", text_); }
+
+    // The frame and the failure, or -1 and nothing.
+    std::pair<int, std::string> play() {
+        proof = Proof{};
+        try {
+            HeadlessPlayback playback(path_);
+            while (playback.step()) {
+            }
+            playback.requireAllPlayed();
+            playback.finish();
+            return {-1, ""};
+        } catch (const std::exception& failure) {
+            return {frameCounter, failure.what()};
+        }
+    }
+
+    std::size_t framesBegin() const { return bytes_.find("ENDPP") + 5; }
+
+    ScratchFolder folder_;
+    std::string path_;
+    std::string bytes_;
+    std::string text_;
+};
+
+TEST_F(PlantedFault, isNotThereBefore) {
+    writeFile(path_, bytes_);
+    EXPECT_EQ(play().first, -1);
+}
+
+TEST_F(PlantedFault, inTheTextIsFoundAtItsFramePlayerAndField) {
+    writeFile(path_, bytes_);
+    // The first, a middle and the last position, each in the line of its x.
+    const auto lines = static_cast<std::size_t>(std::count(text_.begin(), text_.end(), '\n'));
+    const std::size_t positions = (lines - 1) / 3;
+    int lastFrame = -1;
+    for (const std::size_t position : {std::size_t{0}, positions / 2, positions - 1}) {
+        std::string changed;
+        std::size_t line = 0;
+        for (const char c : text_) {
+            if (line == position * 3 + 1 && changed.back() == '\n') {
+                changed += '1';  // in front of the number
+            }
+            changed += c;
+            line += c == '\n' ? 1U : 0U;
+        }
+        writeFile(path_ + ".verify", changed);
+        const auto [frame, failure] = play();
+        EXPECT_NE(failure.find("'verifyX == x'"), std::string::npos) << failure;
+        EXPECT_NE(failure.find("replayInput pos "), std::string::npos) << failure;
+        EXPECT_EQ(std::to_string(proof.stored), "1" + std::to_string(proof.played));
+        EXPECT_GT(frame, lastFrame);
+        lastFrame = frame;
+    }
+    EXPECT_EQ(lastFrame, 1199);
+}
+
+TEST_F(PlantedFault, inOneInputBitTurnsThePlaybackRed) {
+    for (const std::size_t part : {0U, 2U, 4U}) {
+        std::string changed = bytes_;
+        const std::size_t records = (bytes_.size() - 1 - framesBegin()) / 2;
+        const std::size_t record = std::min(records * part / 4, records - 1);
+        // Left, up: a walk that was not walked shows at once, unless a wall is in the way; all bits of a record are tried.
+        bool found = false;
+        for (std::size_t later = record; later < std::min(record + 40, records) && !found; ++later) {
+            for (const int bit : {0, 2, 1, 3}) {
+                changed = bytes_;
+                char& bits = changed[framesBegin() + later * 2 + 1];
+                bits = static_cast<char>(bits ^ (1 << bit));
+                writeFile(path_, changed);
+                found = found || play().first != -1;
+            }
+        }
+        EXPECT_TRUE(found || part == 4U) << part;
+    }
+}
+
+TEST_F(PlantedFault, ofATextThatEndsTooSoonOrGoesOnIsFound) {
+    writeFile(path_, bytes_);
+    const std::string whole = text_;
+    text_ = whole.substr(0, whole.size() / 2);
+    verifyPlainText();
+    EXPECT_NE(play().second.find("Assertion failed: '"), std::string::npos);
+    text_ = "";
+    verifyPlainText();
+    EXPECT_NE(play().second.find("'replayData.inputVerify->good()'"), std::string::npos);
+    text_ = whole.substr(0, whole.size() - 4) + "0\n0\n0\nEND\n";
+    verifyPlainText();
+    EXPECT_NE(play().second.find("'end == \"END\"'"), std::string::npos);
+}
+
+TEST_F(PlantedFault, ofRecordsThatAreLeftOverIsFound) {
+    writeFile(path_, bytes_ + byte(119));
+    EXPECT_NE(play().second.find("1 bytes of the replay are left over"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vandrel
