@@ -6,6 +6,9 @@
 namespace vandrel {
 namespace {
 
+constexpr Square source{5, 5};
+constexpr Square target{6, 5};
+
 // A strong player left of what it pushes.
 class Pushing : public testing::Test {
   protected:
@@ -18,15 +21,13 @@ class Pushing : public testing::Test {
         round.step();
     }
 
-    static constexpr Square source{5, 5};
-    static constexpr Square target{6, 5};
     TestRound round;
     std::shared_ptr<Player> pusher;
 };
 
 TEST_F(Pushing, AWallMovesOnWithItsHitsAndWhatItHides) {
-    for (const int kind : {SquareKind::Wall, SquareKind::HardWall, SquareKind::HardWallHitOnce,
-                           SquareKind::HardWallHitTwice}) {
+    for (const int kind :
+         {SquareKind::Wall, SquareKind::HardWall, SquareKind::HardWallHitOnce, SquareKind::HardWallHitTwice}) {
         squareGrid.set(source, kind);
         squareGrid.set(target, SquareKind::Empty);
         bonusGrid.at(source) = Bonus::Range;
@@ -66,12 +67,12 @@ TEST_F(Pushing, IsRefusedWithoutStrengthOffTheLineAndForWhatCannotMove) {
     }
 }
 
-TEST_F(Pushing, IsRefusedWhereTheNextSquareIsTaken) {
+TEST(PushingInFreshRounds, IsRefusedWhereTheNextSquareIsTaken) {
     enum class Taken { ByWall, ByCrumbling, ByBonus, ByBomb };
     for (const bool bomb : {false, true}) {
         for (const Taken taken : {Taken::ByWall, Taken::ByCrumbling, Taken::ByBonus, Taken::ByBomb}) {
-            TestRound fresh;
-            const auto player = fresh.addPlayer({4, 5});
+            TestRound round;
+            const auto player = round.addPlayer({4, 5});
             player->strength = true;
             if (bomb) {
                 placeBomb(source, player, 500);
@@ -85,36 +86,34 @@ TEST_F(Pushing, IsRefusedWhereTheNextSquareIsTaken) {
             } else {
                 squareGrid.set(target, taken == Taken::ByWall ? SquareKind::GridBlock : SquareKind::HardWallCrumbling);
             }
-            fresh.hold(*player, {.right = true});
-            fresh.step();
+            round.hold(*player, {.right = true});
+            round.step();
             EXPECT_EQ(squareGrid.at(source) == SquareKind::Wall, !bomb);
             EXPECT_EQ(hasBomb(source), bomb);
-            EXPECT_TRUE(fresh.takeHeard().empty());
+            EXPECT_TRUE(round.takeHeard().empty());
         }
     }
 }
 
-TEST_F(Pushing, ABombMovesOnWithItsWholeRecord) {
+TEST(PushingInFreshRounds, ABombMovesOnWithItsWholeRecord) {
     struct Row {
         BombKind kind;
         bool moves;
     };
-    constexpr Row rows[] = {{BombKind::Ticking, true},
-                            {BombKind::Armed, true},
-                            {BombKind::Steered, false},
-                            {BombKind::Rocket, false}};
+    constexpr Row rows[] = {
+        {BombKind::Ticking, true}, {BombKind::Armed, true}, {BombKind::Steered, false}, {BombKind::Rocket, false}};
     for (const Row& row : rows) {
-        TestRound fresh;
-        const auto player = fresh.addPlayer({4, 5});
-        const auto owner = fresh.addPlayer({1, 1});
+        TestRound round;
+        const auto player = round.addPlayer({4, 5});
+        const auto owner = round.addPlayer({1, 1});
         player->strength = true;
         owner->remoteActive = true;
         placeBomb(source, owner, 77);
         bombGrid.edit(source).kind = row.kind;
         bombGrid.edit(source).direction = Facing::Up;
         bombGrid.edit(source).rocketStep = -50;
-        fresh.hold(*player, {.right = true});
-        player->update(fresh.replay(), &fresh.game(), false);
+        round.hold(*player, {.right = true});
+        player->update(round.replay(), &round.game(), false);
         EXPECT_EQ(hasBomb(source), !row.moves);
         ASSERT_EQ(hasBomb(target), row.moves);
         if (row.moves) {
@@ -196,7 +195,7 @@ class PushingOnTails : public Pushing {
     PushingOnTails() : Pushing({.version = replayOutputVersion}) { squareGrid.set(source, SquareKind::Wall); }
 };
 
-TEST_F(PushingOnTails, ANearPartIsHitUntilTheTailIsShortEnough) {
+TEST(PushingOnTailsInFreshRounds, ANearPartIsHitUntilTheTailIsShortEnough) {
     struct Row {
         int length;
         std::size_t part;  // that stands behind the wall
@@ -207,16 +206,16 @@ TEST_F(PushingOnTails, ANearPartIsHitUntilTheTailIsShortEnough) {
     constexpr Row rows[] = {{16, 1, 0, 1}, {16, 5, 4, 1}, {16, 9, 8, 1}, {16, 0, 16, 0}, {8, 7, 4, 1}};
     for (const Row& row : rows) {
         SCOPED_TRACE(testing::Message() << "length " << row.length << ", part " << row.part);
-        TestRound fresh({.version = replayOutputVersion});
+        TestRound round({.version = replayOutputVersion});
         squareGrid.set(source, SquareKind::Wall);
-        const auto player = fresh.addPlayer({4, 5});
+        const auto player = round.addPlayer({4, 5});
         player->strength = true;
-        const auto snake = fresh.addSnake({10, 8}, Facing::Right, row.length, true);
+        const auto snake = round.addSnake({10, 8}, Facing::Right, row.length, true);
         std::vector<Square> squares(static_cast<std::size_t>(row.length), Square{10, 8});
         squares[row.part] = target;
         layParts(*snake, squares);
-        fresh.hold(*player, {.right = true});
-        fresh.step();
+        round.hold(*player, {.right = true});
+        round.step();
         EXPECT_EQ(snake->snakeLengthNow(), row.lengthAfter);
         EXPECT_EQ(snake->dead, row.lengthAfter == 0);
         EXPECT_EQ(player->kills, row.credits);
@@ -245,20 +244,20 @@ TEST_F(PushingOnTails, AHumansTailIsHalvedWithoutCredit) {
     EXPECT_EQ(pusher->kills, 0);
 }
 
-TEST_F(PushingOnTails, TheEndOfASnakesTailEarnsItsPointsInEverything) {
-    TestRound fresh({.mode = GameMode::Everything,
-                     .version = replayOutputVersion,
-                     .tune = [](GameOptions& o) { o.everythingCTF = false; }});
-    fresh.addTeam({1, 5});
-    const auto player = fresh.addPlayer({4, 5}, 0);
+TEST(PushingOnTailsInFreshRounds, TheEndOfASnakesTailEarnsItsPointsInEverything) {
+    TestRound round({.mode = GameMode::Everything, .version = replayOutputVersion, .tune = [](GameOptions& o) {
+                         o.everythingCTF = false;
+                     }});
+    round.addTeam({1, 5});
+    const auto player = round.addPlayer({4, 5}, 0);
     player->strength = true;
     squareGrid.set(source, SquareKind::Wall);
-    const auto snake = fresh.addSnake({10, 8}, Facing::Right, 16, true);
+    const auto snake = round.addSnake({10, 8}, Facing::Right, 16, true);
     std::vector<Square> squares(16, Square{10, 8});
     squares[9] = target;
     layParts(*snake, squares);
-    fresh.hold(*player, {.right = true});
-    fresh.step();
+    round.hold(*player, {.right = true});
+    round.step();
     EXPECT_EQ(teams[0].score, gameOptions.snakeHurtPoints);
     EXPECT_EQ(player->kills, 0);
 }

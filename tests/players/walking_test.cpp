@@ -44,12 +44,12 @@ TEST(Walking, GoesAsFarInAFrameAsItsFormAndTheRateSay) {
     };
     for (const SpeedRow& row : rows) {
         for (const int rate : {30, 60, 120, 144}) {
-            SCOPED_TRACE(testing::Message() << "form " << static_cast<int>(row.form) << ", speed " << row.speed
-                                            << ", at " << rate);
+            SCOPED_TRACE(testing::Message()
+                         << "form " << static_cast<int>(row.form) << ", speed " << row.speed << ", at " << rate);
             TestRound round({.rate = rate, .version = replayOutputVersion});
             const bool isSnake = row.form >= Form::HumanSnake;
-            const auto player = isSnake ? round.addSnake({5, 5}, Facing::Right, 4, row.form >= Form::AISnake)
-                                        : round.addPlayer({5, 5});
+            const auto player =
+                isSnake ? round.addSnake({5, 5}, Facing::Right, 4, row.form >= Form::AISnake) : round.addPlayer({5, 5});
             takeForm(*player, row);
             const Pixel place = afterOneStep(round, *player, {.right = !isSnake});
             EXPECT_EQ(place, (Pixel{160 + (rate >= 120 ? row.at120 : row.at60), 160}));
@@ -222,8 +222,10 @@ TEST(Walking, CornersHeldByABombOrOverAWallAreNotSlidRound) {
         bool ghost;
         bool slides;
     };
-    constexpr Row rows[] = {
-        {false, false, false, true}, {true, false, false, false}, {false, true, false, false}, {false, true, true, true}};
+    constexpr Row rows[] = {{false, false, false, true},
+                            {true, false, false, false},
+                            {false, true, false, false},
+                            {false, true, true, true}};
     for (const Row& row : rows) {
         TestRound round;
         squareGrid.set(6, 5, row.ghost ? SquareKind::EdgeWall : SquareKind::GridBlock);

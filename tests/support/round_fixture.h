@@ -1,5 +1,5 @@
-// A small round for tests of the rules: an arena drawn as text or empty, players whose keys the test holds, an update at
-// a time. All that it changes of the process is put back when it goes. The tests of players and of the arena use it.
+// A small round for tests of the rules: an arena drawn as text or empty, players whose keys the test holds, an update
+// at a time. All that it changes of the process is put back when it goes. The tests of players and of the arena use it.
 #pragma once
 
 #include <map>
@@ -65,8 +65,8 @@ struct HeardSample {
 
 struct RoundSetup {
     Square size{15, 11};
-    // Instead of `size`: a line a row, '#' edge wall, 'X' pillar, 'w' wall, 'h' hard wall, '~' crumbling wall, any other
-    // character a free square. The ring is edge wall in any case.
+    // Instead of `size`: a line a row, '#' edge wall, 'X' pillar, 'w' wall, 'h' hard wall, '~' crumbling wall, any
+    // other character a free square. The ring is edge wall in any case.
     std::vector<std::string> rows{};
     bool pillars = false;  // on squares of even x and even y
     int rate = 60;         // updates a second
