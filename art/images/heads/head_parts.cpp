@@ -168,9 +168,9 @@ void layEye(Canvas& head, int x, int y, Lids lids, Colour lid, int width, bool l
 }
 
 void layMarks(Canvas& head, int x, int y, const PixelRows& rows) {
-    static const Legend inks{
+    static const Legend legend{
         {'#', palette::ink}, {'w', palette::white}, {'r', palette::fireRed}, {'p', {232, 140, 112}}};
-    drawMap(head, x, y, inks, rows);
+    drawMap(head, x, y, legend, rows);
 }
 
 }  // namespace vandrel::art
