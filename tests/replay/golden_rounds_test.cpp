@@ -1,5 +1,5 @@
-// The golden rounds: each plays as it was recorded, in any order, and together they reach all that a round can be. The proof itself is
-// tested with faults planted in one of them.
+// The golden rounds: each plays as it was recorded, in any order, and together they reach all that a round can be. The
+// proof itself is tested with faults planted in one of them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -111,8 +111,9 @@ TEST(GoldenRounds, holdInEitherOrderAndTogetherReachEverything) {
             EXPECT_TRUE(reached.powerups.contains(std::string(bonus.displayName))) << bonus.displayName;
         }
     }
-    for (const char* event : {"auction", "bid", "respawning wall", "walls closed", "snake of the computer", "human snake",
-                              "major stun", "rescue", "flag carried", "flag recovered", "capture", "round over", "quit"}) {
+    for (const char* event :
+         {"auction", "bid", "respawning wall", "walls closed", "snake of the computer", "human snake", "major stun",
+          "rescue", "flag carried", "flag recovered", "capture", "round over", "quit"}) {
         EXPECT_TRUE(reached.events.contains(event)) << event;
     }
 }
@@ -190,7 +191,8 @@ TEST_F(PlantedFault, inOneInputBitTurnsThePlaybackRed) {
         std::string changed = bytes_;
         const std::size_t records = (bytes_.size() - 1 - framesBegin()) / 2;
         const std::size_t record = std::min(records * part / 4, records - 1);
-        // Left, up: a walk that was not walked shows at once, unless a wall is in the way; all bits of a record are tried.
+        // Left, up: a walk that was not walked shows at once, unless a wall is in the way; all bits of a record are
+        // tried.
         bool found = false;
         for (std::size_t later = record; later < std::min(record + 40, records) && !found; ++later) {
             for (const int bit : {0, 2, 1, 3}) {

@@ -1,5 +1,5 @@
-// Every layout that a release ever wrote, made by a writer of its own that knows the history only from the format's description, and
-// played to its end.
+// Every layout that a release ever wrote, made by a writer of its own that knows the history only from the format's
+// description, and played to its end.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -25,7 +25,9 @@ struct OldRound {
     int frames = 5;
 };
 
-constexpr int v(int minor, int patch) { return replayVersion(0, minor, patch); }
+constexpr int v(int minor, int patch) {
+    return replayVersion(0, minor, patch);
+}
 
 class OldWriter {
   public:
@@ -53,31 +55,31 @@ class OldWriter {
 
     void options() {
         bytes_ += int32(round_.version);
-        when(from(v(97, 1)), int32(120));                       // updaterate
+        when(from(v(97, 1)), int32(120));  // updaterate
         bytes_ += byte(round_.players) + byte(round_.side) + byte(round_.side);
         bytes_ += byte(0) + byte(3) + byte(8) + byte(0) + byte(1) + byte(1);  // shrinkingOn to rocketExplosionDelay
-        when(from(10), byte(0));                                // startAsSnake
-        when(from(v(95, 19)), byte(0));                         // startWithShield
-        when(from(v(95, 24)), byte(5));                         // speedCap
-        bytes_ += byte(14);                                     // shrinkSpeedFrames
-        when(from(v(95, 25)), byte(2));                         // shrinkStyleResolved
-        when(!from(5), int32(777));                             // timeBeforeShrinkingFrames
+        when(from(10), byte(0));                                              // startAsSnake
+        when(from(v(95, 19)), byte(0));                                       // startWithShield
+        when(from(v(95, 24)), byte(5));                                       // speedCap
+        bytes_ += byte(14);                                                   // shrinkSpeedFrames
+        when(from(v(95, 25)), byte(2));                                       // shrinkStyleResolved
+        when(!from(5), int32(777));                                           // timeBeforeShrinkingFrames
         when(from(1), byte(static_cast<int>(round_.mode)));
-        when(from(7), byte(0));                                 // singleFlag
+        when(from(7), byte(0));  // singleFlag
         when(from(replayVersion(1, 0, 9)), std::string("\1\0\1\0\1", 5) + byte(2) + byte(3) + byte(4) + byte(6));
         when(from(v(95, 13)), int32(3) + int32(2) + int32(600) + int32(300));
-        when(from(v(95, 22)), byte(1));                         // snakeHunterRespawn
-        when(from(v(95, 23)), byte(4));                         // snakeSpeed
-        when(from(v(96, 5)), byte(1));                          // bombPowerupResetsBombType
+        when(from(v(95, 22)), byte(1));  // snakeHunterRespawn
+        when(from(v(95, 23)), byte(4));  // snakeSpeed
+        when(from(v(96, 5)), byte(1));   // bombPowerupResetsBombType
         when(from(v(96, 7)), byte(0) + int32(10) + int32(20) + int32(30) + int32(40));
-        when(from(v(96, 12)), byte(7));                         // respawnTime
-        when(from(v(97, 5)), byte(1));                          // minorStunEnabled
-        when(from(v(97, 6)), byte(9));                          // snakeStartLength
-        when(from(v(97, 8)), int32(170) + int32(110));          // stun times
-        when(from(v(97, 12)), int32(2));                        // frameMultiplier
-        when(from(replayVersion(1, 0, 2)), int32(0));           // auctionInterval
+        when(from(v(96, 12)), byte(7));                 // respawnTime
+        when(from(v(97, 5)), byte(1));                  // minorStunEnabled
+        when(from(v(97, 6)), byte(9));                  // snakeStartLength
+        when(from(v(97, 8)), int32(170) + int32(110));  // stun times
+        when(from(v(97, 12)), int32(2));                // frameMultiplier
+        when(from(replayVersion(1, 0, 2)), int32(0));   // auctionInterval
         when(from(v(95, 13)), "@@@");
-        when(from(2), byte(13));                                // flag reach
+        when(from(2), byte(13));  // flag reach
     }
 
     void teams() {
@@ -211,19 +213,52 @@ TEST_P(CutShort, endsEarlyAtEveryByte) {
             }
             EXPECT_EQ(playback.end(), PlaybackEnd::CutShort) << length;
         } catch (const std::ios_base::failure&) {
-            EXPECT_LT(length, bytes_.size() - static_cast<std::size_t>(GetParam().frames * 4)) << "only a header may be short";
+            EXPECT_LT(length, bytes_.size() - static_cast<std::size_t>(GetParam().frames * 4))
+                << "only a header may be short";
         }
     }
 }
 
 std::vector<OldRound> everyLayout() {
     std::vector<OldRound> rounds;
-    for (const int version : {0,         1,         2,         3,         4,         5,         6,         7,
-                              8,         9,         10,        v(95, 4),  v(95, 5),  v(95, 6),  v(95, 7),  v(95, 8),
-                              v(95, 10), v(95, 11), v(95, 12), v(95, 13), v(95, 19), v(95, 22), v(95, 23), v(95, 24),
-                              v(95, 25), v(96, 5),  v(96, 7),  v(96, 12), v(97, 1),  v(97, 5),  v(97, 6),  v(97, 8),
-                              v(97, 12), replayVersion(1, 0, 2), replayVersion(1, 0, 9), replayVersion(1, 0, 10),
-                              replayVersion(1, 0, 12), replayOutputVersion}) {
+    for (const int version : {0,
+                              1,
+                              2,
+                              3,
+                              4,
+                              5,
+                              6,
+                              7,
+                              8,
+                              9,
+                              10,
+                              v(95, 4),
+                              v(95, 5),
+                              v(95, 6),
+                              v(95, 7),
+                              v(95, 8),
+                              v(95, 10),
+                              v(95, 11),
+                              v(95, 12),
+                              v(95, 13),
+                              v(95, 19),
+                              v(95, 22),
+                              v(95, 23),
+                              v(95, 24),
+                              v(95, 25),
+                              v(96, 5),
+                              v(96, 7),
+                              v(96, 12),
+                              v(97, 1),
+                              v(97, 5),
+                              v(97, 6),
+                              v(97, 8),
+                              v(97, 12),
+                              replayVersion(1, 0, 2),
+                              replayVersion(1, 0, 9),
+                              replayVersion(1, 0, 10),
+                              replayVersion(1, 0, 12),
+                              replayOutputVersion}) {
         rounds.push_back({version});
         if (version >= 4) {
             rounds.push_back({version, GameMode::CaptureTheFlag});

@@ -44,6 +44,8 @@ inline std::string int32(int value) {
     return bytes;
 }
 
-inline std::string byte(int value) { return std::string(1, static_cast<char>(value)); }
+inline std::string byte(int value) {
+    return std::string(1, static_cast<char>(value));
+}
 
 }  // namespace vandrel

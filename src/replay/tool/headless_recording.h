@@ -15,8 +15,8 @@
 namespace vandrel {
 
 struct RandomRoundSettings {
-    std::string path;   // of the replay; empty records nothing
-    unsigned seed = 0;  // of the options, the level and the players
+    std::string path;     // of the replay; empty records nothing
+    unsigned seed = 0;    // of the options, the level and the players
     int bombsEvery = 30;  // frames between presses of the fire control, on average; 0 for none
     // Called behind the automatic options, to set what they have drawn.
     std::function<void()> adjustResolved;

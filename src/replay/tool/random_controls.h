@@ -9,8 +9,8 @@ namespace vandrel {
 
 class RandomControls final : public Controls {
   public:
-    // The same seed presses the same keys, on any machine. The fire control is pressed once in `onePressIn` frames on average; 0
-    // for never.
+    // The same seed presses the same keys, on any machine. The fire control is pressed once in `onePressIn` frames on
+    // average; 0 for never.
     explicit RandomControls(unsigned seed, int onePressIn) : generator_(seed), onePressIn_(onePressIn) {}
 
     // To be called once before each update.

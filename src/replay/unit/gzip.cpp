@@ -11,7 +11,6 @@ namespace vandrel {
 namespace {
 
 constexpr std::size_t largestInput = 2'000'000'000;
-constexpr std::size_t largestOutput = 1'000'000'000;
 constexpr int gzipWindowBits = 15 + 16;
 constexpr int anyWrappingWindowBits = 15 + 32;
 constexpr int memoryLevel = 8;
@@ -59,8 +58,8 @@ std::string gzipCompress(std::string_view bytes) {
     return output;
 }
 
-std::string gzipDecompress(std::string_view bytes) {
-    if (bytes.size() > largestOutput || bytes.size() * 2 > largestOutput) {
+std::string gzipDecompress(std::string_view bytes, std::size_t limit) {
+    if (bytes.size() > limit || bytes.size() * 2 > limit) {
         throw std::runtime_error(inputTooLarge);
     }
     z_stream stream{};
@@ -71,7 +70,7 @@ std::string gzipDecompress(std::string_view bytes) {
     setInput(stream, bytes);
     std::string output;
     do {
-        if (output.size() + bytes.size() * 2 > largestOutput) {
+        if (output.size() + bytes.size() * 2 > limit) {
             throw std::runtime_error(outputTooLarge);
         }
         output.resize(output.size() + bytes.size() * 2);

@@ -1,6 +1,7 @@
 // Compression of verification texts, in memory, with bounds that keep a forged file from eating it.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,9 +11,12 @@ namespace vandrel {
 // start.
 std::string gzipCompress(std::string_view bytes);
 
+// The most that is ever decompressed, in bytes.
+inline constexpr std::size_t largestDecompressed = 1'000'000'000;
+
 // What the gzip member, or zlib stream, holds. A member that is cut short gives what can be had of it. Throws
-// std::runtime_error for bytes above half of 1,000,000,000 or that would come to more than that, and with the library's
-// own text for damaged ones.
-std::string gzipDecompress(std::string_view bytes);
+// std::runtime_error for more bytes than half of `limit`, or that would come to more than `limit`, and with the
+// library's own text for damaged ones.
+std::string gzipDecompress(std::string_view bytes, std::size_t limit = largestDecompressed);
 
 }  // namespace vandrel

@@ -1,0 +1,176 @@
+// Verification texts on disk: compressed, proved, damaged, missing; and the names and the list of replays.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sstream>
+
+#include "base/version.h"
+#include "replay/unit/gzip.h"
+#include "replay/unit/replay_names.h"
+#include "replay/unit/verify_files.h"
+#include "replay_bytes.h"
+#include "shell/log.h"
+#include "shell/switches.h"
+
+namespace vandrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+std::string thrownText(std::string_view compressed, std::size_t limit = largestDecompressed) {
+    try {
+        gzipDecompress(compressed, limit);
+        return "";
+    } catch (const std::runtime_error& failure) {
+        return failure.what();
+    }
+}
+
+TEST(Gzip, givesBackWhatItTook) {
+    std::string noise;
+    unsigned state = 1;
+    for (int i = 0; i < 300'000; ++i) {
+        state = state * 1664525U + 1013904223U;
+        noise += static_cast<char>(state >> 24U);
+    }
+    for (const std::string& text : {std::string(), std::string("END\n"), std::string(5'000'000, '7'), noise}) {
+        const std::string compressed = gzipCompress(text);
+        EXPECT_EQ(compressed.substr(0, 3), "\x1F\x8B\x08") << "one gzip member";
+        EXPECT_EQ(gzipDecompress(compressed), text);
+    }
+}
+
+TEST(Gzip, namesTheDamage) {
+    std::string compressed = gzipCompress(std::string(1000, 'a') + "END\n");
+    compressed[compressed.size() - 6] = static_cast<char>(compressed[compressed.size() - 6] ^ 1);
+    EXPECT_EQ(thrownText(compressed), "incorrect data check");
+    EXPECT_EQ(thrownText("no member at all"), "incorrect header check");
+}
+
+TEST(Gzip, givesWhatCanBeHadOfACutMember) {
+    const std::string text = std::string(1000, 'a') + "END\n";
+    const std::string compressed = gzipCompress(text);
+    const std::string part = gzipDecompress(compressed.substr(0, compressed.size() - 8));
+    EXPECT_EQ(part, text) << "only the check behind the text is gone";
+    EXPECT_EQ(gzipDecompress(""), "");
+}
+
+TEST(Gzip, refusesABombBeforeItGoesOff) {
+    constexpr std::size_t limit = 1'000'000;
+    const std::string bomb = gzipCompress(std::string(5'000'000, '\0'));
+    EXPECT_LT(bomb.size(), limit / 100);
+    EXPECT_EQ(thrownText(bomb, limit), "size of output string will use more memory then intended when decompressing");
+    EXPECT_EQ(thrownText(gzipCompress(std::string(limit - 50'000, '\0')), limit), "");
+    EXPECT_EQ(thrownText(std::string(limit / 2 + 1, 'x'), limit),
+              "size may use more memory than intended when decompressing");
+}
+
+class VerifyFiles : public testing::Test {
+  protected:
+    void SetUp() override {
+        setDebugOutput(nullptr);
+        verifyEnabled = true;
+    }
+    void TearDown() override { verifyEnabled = true; }
+
+    static std::string textOf(std::istream& stream) {
+        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    }
+
+    ScratchFolder folder_;
+    std::string path_ = folder_.file("4.1.1.2.replay");
+};
+
+TEST_F(VerifyFiles, areCompressedProvedAndThenAlone) {
+    std::ofstream text(plainVerifyPath(path_));
+    text << "0\n32\n64\n";
+    finishVerifyFile(path_, text);
+    EXPECT_FALSE(std::filesystem::exists(path_ + ".verify"));
+    EXPECT_EQ(gzipDecompress(readFile(path_ + ".verifyZ")), "0\n32\n64\nEND\n");
+    EXPECT_EQ(textOf(*openVerifyInput(path_)), "0\n32\n64\nEND\n");
+}
+
+TEST_F(VerifyFiles, openTheCompressedFormFirstAndNothingWhereNothingIs) {
+    EXPECT_EQ(openVerifyInput(path_), nullptr);
+    EXPECT_EQ(openVerifyInput(path_ + "/below/a/file"), nullptr);
+    writeFile(path_ + ".verify", "plain");
+    EXPECT_EQ(textOf(*openVerifyInput(path_)), "plain");
+    writeFile(path_ + ".verifyZ", gzipCompress("compressed"));
+    EXPECT_EQ(textOf(*openVerifyInput(path_)), "compressed");
+    verifyEnabled = false;
+    EXPECT_EQ(openVerifyInput(path_), nullptr);
+}
+
+TEST_F(VerifyFiles, stopAtOnceWhereOneIsDamaged) {
+    writeFile(path_ + ".verifyZ", "damaged");
+    EXPECT_THROW(openVerifyInput(path_), std::runtime_error);
+}
+
+TEST_F(VerifyFiles, keepThePlainFormWhereTheOtherCannotBeWritten) {
+    std::filesystem::create_directory(path_ + ".verifyZ");
+    std::ofstream text(plainVerifyPath(path_));
+    text << "0\n32\n64\n";
+    EXPECT_THROW(finishVerifyFile(path_, text), std::runtime_error);
+    EXPECT_EQ(readFile(path_ + ".verify"), "0\n32\n64\nEND\n");
+}
+
+class ReplayNames : public testing::Test {
+  protected:
+    void SetUp() override {
+        setDebugOutput(nullptr);
+        setenv("XDG_DATA_HOME", folder_.path().c_str(), 1);
+        std::filesystem::create_directories(replays_);
+    }
+
+    std::string replay(const std::string& name) const { return (replays_ / name).string(); }
+
+    ScratchFolder folder_;
+    std::filesystem::path replays_ = folder_.path() / "vandrel" / "replays";
+};
+
+TEST_F(ReplayNames, countOnFromTheHighest) {
+    EXPECT_EQ(newReplayName(), replay("0.1.1.2.replay"));
+    std::filesystem::create_directory(replays_ / "kept");
+    for (const char* name : {"3.1.1.2.replay", "kept/12.0.96.5.replay", "40.1.1.2.replay.verify", "notes.txt"}) {
+        writeFile(replay(name), "");
+    }
+    EXPECT_EQ(newReplayName(), replay("13.1.1.2.replay"));
+    writeFile(replay("first.replay"), "");
+    EXPECT_THROW(newReplayName(), std::invalid_argument);
+}
+
+TEST_F(ReplayNames, listNewestFirstWithSizeAndHeaderOrError) {
+    const std::string golden = VANDREL_SOURCE_DIR "/tests/replays/14.1.1.2.replay";
+    writeFile(replay("1.1.1.2.replay"), readFile(golden));
+    writeFile(replay("1.1.1.2.replay.verifyZ"), "12345");
+    writeFile(replay("2.1.1.2.replay"), "");
+    writeFile(replay("3.9.9.9.replay"), int32(replayVersion(9, 9, 9)));
+    writeFile(replay("4.1.1.2.replay"), int32(-1));
+    std::filesystem::create_directory(replay("5.1.1.2.replay"));
+    const auto start = std::filesystem::file_time_type::clock::now();
+    for (int number = 1; number <= 5; ++number) {
+        for (const auto& info : getAllReplays(false)) {
+            std::filesystem::last_write_time(info.path, start + std::chrono::seconds(info.number));
+        }
+    }
+    const std::vector<ReplayInfo> all = getAllReplays(true);
+    ASSERT_THAT(all, SizeIs(5));
+    EXPECT_THAT((std::vector{all[0].number, all[1].number, all[2].number, all[3].number, all[4].number}),
+                ElementsAre(5, 4, 3, 2, 1));
+    EXPECT_THAT(all[0].errors, SizeIs(3)) << "a folder in a replay's place";
+    EXPECT_THAT(all[1].errors, ElementsAre("Invalid replay version: " + versionText(-1)));
+    EXPECT_THAT(all[2].errors, ElementsAre("Replay from future version of game: 9.9.9"));
+    EXPECT_THAT(all[3].errors, ElementsAre(testing::_, "One possible cause is a crash while starting a game",
+                                           "You can safely delete this file"));
+    EXPECT_THAT(all[4].errors, SizeIs(0));
+    EXPECT_EQ(all[4].gameMode, 1);
+    EXPECT_EQ(all[4].numPlayers, 8);
+    EXPECT_EQ(all[4].version, replayOutputVersion);
+    EXPECT_EQ(all[4].size, std::filesystem::file_size(golden) + 5);
+}
+
+}  // namespace
+}  // namespace vandrel
