@@ -28,13 +28,19 @@ class StageError(Exception):
 def wait_for(condition, what, timeout=60.0, interval=0.02):
     """Asks `condition` until it gives something true, and gives that. Raises StageError naming `what` after `timeout`
     seconds: a limit for a broken run, so it is generous. Nothing waits for a time to pass."""
+    result = poll(condition, timeout, interval)
+    if not result:
+        raise StageError(f"waited {timeout:.0f} s in vain for {what}")
+    return result
+
+
+def poll(condition, timeout, interval=0.02):
+    """Asks `condition` until it gives something true or `timeout` seconds are over; gives what it gave last."""
     deadline = time.monotonic() + timeout
     while True:
         result = condition()
-        if result:
+        if result or time.monotonic() > deadline:
             return result
-        if time.monotonic() > deadline:
-            raise StageError(f"waited {timeout:.0f} s in vain for {what}")
         time.sleep(interval)
 
 
