@@ -24,8 +24,6 @@ void Player::moveOldSnake(int xDir, int yDir) {
     if (snakeHistory.empty() || snakeHistory.back() != position()) {
         snakeHistory.push_back(position());
     }
-    x = snappedDown(x);
-    y = snappedDown(y);
     if (x % squareSize == 0 && y % squareSize == 0) {
         turnSnake(xDir, yDir);
     }
@@ -34,10 +32,14 @@ void Player::moveOldSnake(int xDir, int yDir) {
     const Pixel beyond{front.x + heading.x * oldStep, front.y + heading.y * oldStep};
     const Square frontSquare = squareAtPixel(front);
     const Square beyondSquare = squareAtPixel(beyond);
-    if (!isIndestructible(squareGrid.at(beyondSquare))) {
-        const int pixels = squareGrid.at(beyondSquare) == SquareKind::Empty ? oldStep : 1;
-        x += heading.x * pixels;
-        y += heading.y * pixels;
+    const int kindBeyond = squareGrid.at(beyondSquare);
+    if (kindBeyond == SquareKind::Empty) {
+        x = snappedDown(x) + heading.x * oldStep;
+        y = snappedDown(y) + heading.y * oldStep;
+    } else if (!isIndestructible(kindBeyond)) {
+        // Pixel by pixel through a wall: in step again only once it is eaten, or the snake would not get on.
+        x += heading.x;
+        y += heading.y;
     }
     if (squareGrid.at(frontSquare) != SquareKind::Empty && frontSquare != beyondSquare) {
         eatWall(frontSquare);

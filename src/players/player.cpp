@@ -130,7 +130,7 @@ bool Player::canUsePowerups() const {
 int Player::getSpeed(const PackagedReplayData& replayData) const {
     const auto perFrame = [](int pixelsAt60) { return std::max(pixelsAt60 / gameOptions.frameMultiplier, 1); };
     if (snakeLength > 0) {
-        if (slowTimer > 0 && !(isAI && replayData.isOlderThan(majorStunFrom))) {
+        if (slowTimer > 0 && !replayData.isOlderThan(majorStunFrom)) {
             return 1;
         }
         if (!isAI) {
