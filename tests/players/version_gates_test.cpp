@@ -1,0 +1,465 @@
+// Rules that changed between releases: each is played as a replay of the last release before the change and of the one
+// that brought it.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <sstream>
+
+#include "replay/unit/streams.h"
+#include "shell/switches.h"
+#include "support/round_fixture.h"
+
+namespace vandrel {
+namespace {
+
+// The release before `gate`. No gate stands at patch 0.
+int before(int gate) {
+    return gate - 1;
+}
+
+// Runs `scene` with a round setup of the release before the change (`old` true) and of the change.
+template <class Scene>
+void playBothSides(int gate, Scene scene, RoundSetup setup = {}) {
+    for (const bool old : {true, false}) {
+        SCOPED_TRACE(versionText(old ? before(gate) : gate));
+        setup.version = old ? before(gate) : gate;
+        TestRound round(setup);
+        scene(round, old);
+    }
+}
+
+std::string bytesOf(int value, bool wide) {
+    std::ostringstream bytes;
+    if (wide) {
+        writeInt(&bytes, value);
+    } else {
+        writeByte(&bytes, value);
+    }
+    return bytes.str();
+}
+
+// A carrier of the neutral flag stands on its base (1, 5).
+std::shared_ptr<Player> carryHome(TestRound& round, Square otherBase) {
+    gameOptions.singleFlag = true;
+    round.addTeam({1, 5});
+    round.addTeam(otherBase);
+    const auto player = round.addPlayer({1, 5}, 0);
+    Flag flag;
+    flag.inBase = false;
+    flag.carrier = player;
+    round.game().flags = {flag};
+    return player;
+}
+
+TEST(Since_0_0_2, ACaptureHasItsScoreInTheReplay) {
+    playBothSides(replayVersion(0, 0, 2),
+                  [](TestRound& round, bool old) {
+                      const auto player = carryHome(round, {13, 5});
+                      if (!old) {
+                          round.putBehindRecord(*player, bytesOf(1, false));
+                      }
+                      round.step();
+                      EXPECT_EQ(teams[0].score, 1);
+                  },
+                  {.mode = GameMode::CaptureTheFlag});
+}
+
+TEST(Since_0_0_2, AWrongCaptureScoreStopsTheReplay) {
+    TestRound round({.mode = GameMode::CaptureTheFlag, .version = replayVersion(0, 0, 2)});
+    round.putBehindRecord(*carryHome(round, {13, 5}), bytesOf(2, false));
+    EXPECT_THROW(round.step(), std::runtime_error);
+}
+
+TEST(Since_1_0_10, TheScoreOfACaptureIsFourBytesAndFromOneReleaseToTheNextNotProved) {
+    struct Row {
+        int version;
+        bool wide;
+        bool proved;
+    };
+    constexpr Row rows[] = {{replayVersion(1, 0, 8), false, true},
+                            {replayVersion(1, 0, 9), false, false},
+                            {replayVersion(1, 0, 10), true, false},
+                            {replayVersion(1, 0, 11), true, false},
+                            {replayVersion(1, 0, 12), true, true}};
+    for (const Row& row : rows) {
+        for (const int score : {1, 77}) {
+            SCOPED_TRACE(versionText(row.version));
+            TestRound round({.mode = GameMode::CaptureTheFlag, .version = row.version});
+            round.putBehindRecord(*carryHome(round, {13, 5}), bytesOf(score, row.wide));
+            if (row.proved && score != 1) {
+                EXPECT_THROW(round.step(), std::runtime_error);
+            } else {
+                EXPECT_NO_THROW(round.step());
+            }
+        }
+    }
+}
+
+TEST(Since_0_0_7, AFlagIsNotTakenByItsOwnTeam) {
+    playBothSides(replayVersion(0, 0, 7),
+                  [](TestRound& round, bool old) {
+                      round.addTeam({1, 5});
+                      round.addTeam({13, 5});
+                      const auto player = round.addPlayer({4, 5}, 0);
+                      Flag own;
+                      own.team = 0;
+                      own.inBase = false;
+                      own.moveTo({132, 160});
+                      Flag other;
+                      other.team = 1;
+                      other.moveTo({416, 160});
+                      round.game().flags = {own, other};
+                      round.step();
+                      EXPECT_EQ(round.game().flags[0].carrier.lock() == player, old);
+                      EXPECT_EQ(round.game().flags[0].inBase, !old);
+                  },
+                  {.mode = GameMode::CaptureTheFlag});
+}
+
+TEST(Since_0_0_9, WhoComesBackHasRoomAndIsNoGhost) {
+    for (const int kind : {SquareKind::Wall, SquareKind::Empty}) {
+        playBothSides(replayVersion(0, 0, 9),
+                      [kind](TestRound& round, bool old) {
+                          const auto player = round.addPlayer({5, 5});
+                          squareGrid.set(5, 5, kind);
+                          squareGrid.set(6, 5, SquareKind::Wall);
+                          player->die();
+                          player->respawnTimer = 1;
+                          round.step();
+                          EXPECT_FALSE(player->dead);
+                          EXPECT_EQ(player->ghost, old && kind == SquareKind::Wall);
+                          EXPECT_EQ(squareGrid.at(6, 5) == SquareKind::Wall, old);
+                          EXPECT_EQ(player->shieldTimer, Player::runningShield());
+                      },
+                      {.mode = GameMode::Deathmatch});
+    }
+}
+
+TEST(Since_0_0_11, SnakesMoveByThePixel) {
+    playBothSides(replayVersion(0, 0, 11), [](TestRound& round, bool old) {
+        const auto snake = round.addSnake({5, 5}, Facing::Right, 3);
+        snake->x += 2;
+        round.step();
+        EXPECT_EQ(snake->x, old ? 164 : 165) << "four pixels from a multiple of four, or three";
+    });
+}
+
+TEST(Since_0_0_11, TheOlderSnakeCrawlsThroughAWallAndEatsItAtItsFarSide) {
+    TestRound round({.version = replayVersion(0, 0, 10)});
+    const auto snake = round.addSnake({5, 5}, Facing::Right, 3);
+    squareGrid.set(6, 5, SquareKind::HardWall);
+    bonusGrid.at(6, 5) = Bonus::Stop;
+    for (int x = 161; x <= 189; ++x) {
+        round.step();
+        EXPECT_EQ(snake->x, x);
+        EXPECT_EQ(squareGrid.at(6, 5), SquareKind::HardWall);
+    }
+    round.step();
+    EXPECT_EQ(snake->x, 192) << "in step again";
+    EXPECT_EQ(squareGrid.at(6, 5), SquareKind::Empty);
+    EXPECT_EQ(bonusGrid.at(6, 5), 0);
+    EXPECT_EQ(snake->snakeLengthNow(), 4);
+}
+
+TEST(Since_0_0_11, TheOlderSnakesBodyFollowsThePathSixteenPixelsApart) {
+    TestRound round({.size = {40, 11}, .version = replayVersion(0, 0, 10)});
+    const auto snake = round.addSnake({5, 5}, Facing::Right, 3);
+    round.step(20);
+    EXPECT_EQ(snake->x, 240);
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(std::get<0>(snake->snakeParts.at(i)), 240 - 16 * (static_cast<int>(i) + 1));
+        EXPECT_EQ(std::get<2>(snake->snakeParts.at(i)), Facing::Right);
+    }
+    round.hold(*snake, {.up = true});
+    round.step(8);
+    EXPECT_EQ(snake->facing, Facing::Up) << "it turns where both coordinates are on a line";
+}
+
+TEST(Since_0_95_2, TeamsOfWhichNobodyCanRescueDie) {
+    playBothSides(replayVersion(0, 95, 2),
+                  [](TestRound& round, bool old) {
+                      round.addTeam({1, 5});
+                      round.addTeam({13, 5});
+                      const auto player = round.addPlayer({5, 5}, 0);
+                      round.addPlayer({9, 9}, 1);
+                      player->crawling = true;
+                      round.step();
+                      EXPECT_EQ(player->dead, !old);
+                  },
+                  {.mode = GameMode::BattleRoyale});
+}
+
+TEST(Since_0_95_4, TheVerificationHasSnakes) {
+    playBothSides(replayVersion(0, 95, 4), [](TestRound& round, bool old) {
+        const auto snake = round.addSnake({5, 5}, Facing::Right, 2);
+        verifyEnabled = true;
+        const std::string head = "0\n163\n160\n";
+        const std::string body = "2 162 160 162 160\n";
+        // What stands behind the player's own lines is not read by it.
+        const auto text = std::make_shared<std::istringstream>(old ? head + "END\n" : head + body + "END\n");
+        round.game().replay.inputVerify = text;
+        EXPECT_NO_THROW(round.step());
+        std::string next;
+        *text >> next;
+        EXPECT_EQ(next, "END");
+    });
+}
+
+TEST(Since_0_95_9, WhoStartsToCrawlLetsItsBombsGo) {
+    playBothSides(replayVersion(0, 95, 9),
+                  [](TestRound& round, bool old) {
+                      const auto player = round.addPlayer({5, 5});
+                      player->remoteActive = true;
+                      placeBomb({9, 9}, player, 50);
+                      bombGrid.edit(9, 9).kind = BombKind::Armed;
+                      player->hurt(DeathReason::Explosion, round.replay(), nullptr);
+                      EXPECT_TRUE(player->crawling);
+                      EXPECT_EQ(player->remoteActive, old);
+                      EXPECT_EQ(bombGrid.at(9, 9).kind, old ? BombKind::Armed : BombKind::Ticking);
+                  },
+                  {.mode = GameMode::BattleRoyale});
+}
+
+TEST(Since_0_95_10, TheDeadHaveNoRecordsAndNoLines) {
+    playBothSides(replayVersion(0, 95, 10), [](TestRound& round, bool old) {
+        const auto dead = round.addPlayer({5, 5});
+        const auto living = round.addPlayer({7, 5});
+        dead->die();
+        verifyEnabled = true;
+        const std::string text = old ? "0\n160\n160\n1\n226\n160\nEND\n" : "1\n226\n160\nEND\n";
+        round.game().replay.inputVerify = std::make_shared<std::istringstream>(text);
+        round.hold(*living, {.right = true});
+        EXPECT_NO_THROW(round.step());
+        EXPECT_EQ(living->x, 226);
+        std::string next;
+        *round.replay().inputVerify >> next;
+        EXPECT_EQ(next, "END");
+    });
+}
+
+TEST(Since_0_95_12, HeadsOnOneSquareHurtEachOther) {
+    playBothSides(replayVersion(0, 95, 12), [](TestRound& round, bool old) {
+        const auto first = round.addSnake({5, 5}, Facing::Up, 12);
+        const auto second = round.addSnake({5, 5}, Facing::Down, 12);
+        round.game().checkPlayerHits();
+        EXPECT_EQ(first->isSnake(), old);
+        EXPECT_EQ(second->isSnake(), old);
+    });
+}
+
+TEST(Since_0_95_15, RocketsStepOnceAPass) {
+    playBothSides(replayVersion(0, 95, 15), [](TestRound& round, bool old) {
+        const auto owner = round.addPlayer({1, 1});
+        placeBomb({5, 5}, owner, 500);
+        Bomb& rocket = bombGrid.edit(5, 5);
+        rocket.kind = BombKind::Rocket;
+        rocket.direction = Facing::Right;
+        rocket.rocketStep = 2;
+        round.game().updateBombs();
+        // The old pass meets it again on the next square and counts its frame there too.
+        EXPECT_EQ(bombGrid.at(6, 5).rocketStep, old ? 1 : 0);
+    });
+}
+
+TEST(Since_0_95_16, AFlameStunsAComputersSnake) {
+    playBothSides(replayVersion(0, 95, 16), [](TestRound& round, bool old) {
+        const auto killer = round.addPlayer({1, 1});
+        const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
+        snake->hurt(DeathReason::Explosion, round.replay(), killer);
+        EXPECT_EQ(snake->dead, old);
+        EXPECT_EQ(snake->slowTimer, old ? 0 : 180);
+        EXPECT_EQ(snake->snakeLengthNow(), old ? 0 : 12) << "the halving came a release later";
+        EXPECT_EQ(killer->kills, old ? 1 : 0);
+    });
+}
+
+TEST(Since_0_95_16, ASlowedSnakeOfAnySortMovesAPixelAFrame) {
+    playBothSides(replayVersion(0, 95, 16), [](TestRound& round, bool old) {
+        for (const bool ai : {false, true}) {
+            const auto snake = round.addSnake({5, 5}, Facing::Up, 12, ai);
+            snake->slowTimer = 100;
+            EXPECT_EQ(snake->getSpeed(round.replay()), old ? 3 : 1);
+        }
+    });
+}
+
+TEST(Since_0_95_17, TheStunHalves) {
+    playBothSides(replayVersion(0, 95, 17), [](TestRound& round, bool old) {
+        const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
+        snake->hurt(DeathReason::Explosion, round.replay(), nullptr);
+        EXPECT_EQ(snake->snakeLengthNow(), old ? 12 : 6);
+        EXPECT_EQ(snake->shield, !old);
+    });
+}
+
+TEST(Since_0_95_20, ANewSnakeLooksForAWayOut) {
+    playBothSides(replayVersion(0, 95, 20), [](TestRound& round, bool old) {
+        squareGrid.set(5, 6, SquareKind::GridBlock);
+        EXPECT_EQ(createAISnake(120, {5, 5}, round.replay().version)->facing, old ? Facing::Down : Facing::Up);
+    });
+}
+
+TEST(Since_0_95_26, AWaveThatAWallStoppedBurnsOut) {
+    playBothSides(replayVersion(0, 95, 26), [](TestRound& round, bool old) {
+        const auto owner = round.addPlayer({13, 9});
+        squareGrid.set(7, 5, SquareKind::GridBlock);
+        placeBomb({5, 5}, owner, 0);
+        EXPECT_NE(round.stepUntil([&] { return isFlame(round.game(), {6, 5}); }), -1);
+        round.step(5);  // to the wall, at the pace of these releases
+        EXPECT_EQ(isFlame(round.game(), {6, 5}), !old);
+        EXPECT_TRUE(isFlame(round.game(), {4, 5}));
+    });
+}
+
+TEST(Since_0_95_28, FlamesStartOneSquareOutAndScaleWithTheRate) {
+    playBothSides(replayVersion(0, 95, 28),
+                  [](TestRound& round, bool old) {
+                      const auto owner = round.addPlayer({13, 9});
+                      round.game().explodeBomb({5, 5}, owner);
+                      const auto& flames = round.game().explosions;
+                      ASSERT_EQ(flames.size(), 12U);
+                      constexpr int oldTimers[] = {0, 4, 8};
+                      constexpr int newTimers[] = {8, 8, 16};
+                      for (std::size_t i = 0; i < 3; ++i) {
+                          const bool out = !old && i == 0;
+                          EXPECT_EQ(flames[i].timer, old ? oldTimers[i] : newTimers[i]);
+                          EXPECT_EQ(flames[i].steps, out ? 1 : 0);
+                          EXPECT_EQ(flames[i].firstFrame, out);
+                          EXPECT_EQ(flames[i].x, out ? 4 : 5);
+                      }
+                  },
+                  {.rate = 120});
+}
+
+// Tested before it falls, a timer takes one update more.
+TEST(Since_0_95_28, TheTimerOfAFlameFallsBeforeItIsTested) {
+    playBothSides(replayVersion(0, 95, 28), [](TestRound& round, bool old) {
+        const auto owner = round.addPlayer({13, 9});
+        Explosion flame;
+        flame.owner = owner;
+        flame.x = flame.y = 5;
+        flame.dx = 1;
+        flame.timer = 2;
+        round.game().explosions = {flame};
+        round.game().updateExplosions();
+        EXPECT_EQ(round.game().explosions.at(0).x, 5);
+        round.game().updateExplosions();
+        EXPECT_EQ(round.game().explosions.at(0).x, old ? 5 : 6);
+        round.game().updateExplosions();
+        EXPECT_EQ(round.game().explosions.at(0).x, 6);
+    });
+}
+
+TEST(Since_0_96_6, NobodyCapturesOnABaseThatTwoTeamsShare) {
+    for (const Square otherBase : {Square{1, 5}, Square{13, 5}}) {
+        playBothSides(replayVersion(0, 96, 6),
+                      [otherBase](TestRound& round, bool old) {
+                          const bool captures = old || otherBase != Square{1, 5};
+                          const auto player = carryHome(round, otherBase);
+                          if (captures) {
+                              round.putBehindRecord(*player, bytesOf(1, false));
+                          }
+                          round.step();
+                          EXPECT_EQ(teams[0].score, captures ? 1 : 0);
+                          EXPECT_EQ(round.game().flags[0].carrier.expired(), captures);
+                      },
+                      {.mode = GameMode::CaptureTheFlag});
+    }
+}
+
+TEST(Since_0_96_13, APushedWallCrushes) {
+    playBothSides(replayVersion(0, 96, 13), [](TestRound& round, bool old) {
+        const auto victim = round.addPlayer({6, 5});
+        const auto pusher = round.addPlayer({4, 5});
+        pusher->strength = true;
+        squareGrid.set(5, 5, SquareKind::Wall);
+        round.hold(*pusher, {.right = true});
+        round.step();
+        EXPECT_EQ(pusher->kills, old ? 0 : 1);
+        EXPECT_EQ(squareGrid.at(6, 5), SquareKind::Wall);
+        EXPECT_TRUE(victim->dead) << "by the wall that it then stands in, where not by the push";
+    });
+}
+
+TEST(Since_1_0_2, TheSecondButtonIsInTheRecords) {
+    playBothSides(replayVersion(1, 0, 2), [](TestRound& round, bool old) {
+        const auto player = round.addPlayer({5, 5});
+        round.hold(*player, {.button2 = true});
+        round.step();
+        EXPECT_EQ(player->pingTimer, old ? 0 : 60);
+    });
+}
+
+TEST(Since_1_0_10, AWallPushedOnASnakeIsThePushersHit) {
+    for (const bool head : {true, false}) {
+        playBothSides(replayVersion(1, 0, 10), [head](TestRound& round, bool old) {
+            const auto pusher = round.addPlayer({4, 5});
+            pusher->strength = true;
+            squareGrid.set(5, 5, SquareKind::Wall);
+            const auto snake = round.addSnake(head ? Square{6, 5} : Square{10, 8}, Facing::Up, 12, true);
+            snake->snakeParts.assign(12, {10 * 32, 8 * 32, Facing::Up});
+            snake->stopTimer = 100;
+            if (!head) {
+                snake->snakeParts[8] = {6 * 32, 5 * 32, Facing::Up};
+            }
+            round.hold(*pusher, {.right = true});
+            round.step();
+            EXPECT_EQ(squareGrid.at(6, 5), SquareKind::Wall);
+            EXPECT_EQ(pusher->kills, old ? 0 : 1);
+            EXPECT_EQ(snake->dead, head && !old);
+            // A wall that has come to stand on a part halves in any release, by nobody's hand.
+            EXPECT_EQ(snake->snakeLengthNow(), head ? (old ? 12 : 0) : 6);
+        });
+    }
+}
+
+TEST(Since_1_0_10, PushedWallAndWallMeanSomethingToASnake) {
+    for (const DeathReason reason : {DeathReason::PushedWall, DeathReason::Wall}) {
+        playBothSides(replayVersion(1, 0, 10), [reason](TestRound& round, bool old) {
+            const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
+            snake->hurt(reason, round.replay(), nullptr);
+            EXPECT_EQ(snake->dead, !old);
+        });
+    }
+}
+
+TEST(Since_1_0_10, PartsThatTheSnakeHasNoLongerAreNotHit) {
+    playBothSides(replayVersion(1, 0, 10), [](TestRound& round, bool old) {
+        const auto snake = round.addSnake({8, 8}, Facing::Up, 12);
+        snake->setSnakeLength(8);
+        snake->snakeParts[10] = {5 * 32, 5 * 32, Facing::Up};
+        squareGrid.set(5, 5, SquareKind::Wall);
+        round.game().checkPlayerHits();
+        EXPECT_EQ(snake->snakeLengthNow(), old ? 4 : 8);
+    });
+}
+
+TEST(Since_1_0_11, ACrawlerMayNotBid) {
+    playBothSides(replayVersion(1, 0, 11), [](TestRound& round, bool old) {
+        const auto player = round.addPlayer({5, 5});
+        player->crawling = true;
+        player->crawlTimer = 500;
+        player->cash = 5;
+        round.game().auction = std::make_unique<Auction>();
+        round.game().auction->timer = 1000;
+        round.hold(*player, {.button2 = true});
+        round.step();
+        EXPECT_EQ(player->canUsePowerups(), old);
+        EXPECT_EQ(round.game().auction->price, old ? 1 : 0);
+        EXPECT_EQ(player->pingTimer, 60);
+    });
+}
+
+// A game that is played now, and a replay whose version is not known, go by today's rules.
+TEST(LivePlay, GoesByTodaysRulesAtEveryGate) {
+    TestRound round;
+    for (const int gate : {replayVersion(0, 0, 2), replayVersion(0, 95, 28), replayOutputVersion}) {
+        EXPECT_FALSE(round.replay().isOlderThan(gate));
+    }
+    const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
+    snake->hurt(DeathReason::Explosion, round.replay(), nullptr);
+    EXPECT_EQ(snake->snakeLengthNow(), 6);
+}
+
+}  // namespace
+}  // namespace vandrel
