@@ -8,8 +8,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <complex>
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
@@ -26,6 +28,7 @@ using namespace std::chrono_literals;
 
 constexpr auto patience = 20s;
 constexpr int framesPerStretch = recordingRate / 100;
+constexpr double tolerance = 0.02;  // of a level
 
 // Starts a program that ends with this process; its output goes to the file.
 pid_t start(const std::vector<std::string>& command, const std::filesystem::path& output) {
@@ -128,31 +131,48 @@ SoundRecording::~SoundRecording() {
     std::filesystem::remove_all(file_.parent_path(), ignored);
 }
 
-void SoundRecording::finish() {
-    end(recorder_);
+void SoundRecording::readOn() {
     std::ifstream stream(file_, std::ios::binary);
+    stream.seekg(static_cast<std::streamoff>(frames_.size() * 2 * sizeof(std::int16_t)));
     std::array<std::int16_t, 2> frame{};
     while (stream.read(reinterpret_cast<char*>(frame.data()), sizeof(frame))) {
         frames_.push_back({static_cast<float>(frame[0]) / 32768.0f, static_cast<float>(frame[1]) / 32768.0f});
     }
 }
 
-int SoundRecording::length() const {
-    return static_cast<int>(frames_.size() * 1000 / recordingRate);
+void SoundRecording::finish() {
+    end(recorder_);
+    readOn();
+}
+
+bool SoundRecording::waitForLevel(int frequency, double level, std::size_t channel, int milliseconds) {
+    const auto limit = std::chrono::steady_clock::now() + patience;
+    const auto wanted = static_cast<std::size_t>(milliseconds / 10);
+    while (std::chrono::steady_clock::now() < limit) {
+        readOn();
+        const std::vector<double> all = levels(frequency, channel);
+        if (all.size() >= wanted && std::all_of(all.end() - static_cast<std::ptrdiff_t>(wanted), all.end(),
+                                                [&](double one) { return std::abs(one - level) < tolerance; })) {
+            return true;
+        }
+        std::this_thread::sleep_for(30ms);
+    }
+    return false;
 }
 
 std::vector<double> SoundRecording::levels(int frequency, std::size_t channel) const {
     std::vector<double> result;
     const double step = 2 * std::numbers::pi * frequency / recordingRate;
+    std::array<std::complex<double>, framesPerStretch> wave;
+    for (std::size_t i = 0; i < wave.size(); ++i) {
+        wave[i] = std::polar(1.0, step * static_cast<double>(i));
+    }
     for (std::size_t begin = 0; begin + framesPerStretch <= frames_.size(); begin += framesPerStretch) {
-        double real = 0;
-        double imaginary = 0;
-        for (std::size_t i = 0; i < framesPerStretch; ++i) {
-            const double sample = frames_[begin + i][channel];
-            real += sample * std::cos(step * static_cast<double>(i));
-            imaginary += sample * std::sin(step * static_cast<double>(i));
+        std::complex<double> sum;
+        for (std::size_t i = 0; i < wave.size(); ++i) {
+            sum += static_cast<double>(frames_[begin + i][channel]) * wave[i];
         }
-        result.push_back(2 * std::hypot(real, imaginary) / framesPerStretch);
+        result.push_back(2 * std::abs(sum) / framesPerStretch);
     }
     return result;
 }

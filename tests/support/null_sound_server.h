@@ -39,14 +39,17 @@ class SoundRecording {
     // Ends the recording; the levels can be asked for afterwards.
     void finish();
 
-    // Of the recording, in milliseconds.
-    int length() const;
+    // Waits until the tone has had this level, within 0.02, throughout the last `milliseconds` of what was recorded so
+    // far: the gaps of a busy machine only make it wait longer. False when that does not come about.
+    bool waitForLevel(int frequency, double level, std::size_t channel = 0, int milliseconds = 200);
 
     // How loud a tone of this many hertz is in each stretch of 10 ms, as the amplitude 0.0 to 1.0. Tones 100 Hz apart,
     // and multiples of it, do not disturb each other. `channel` is 0 for the left, 1 for the right.
     std::vector<double> levels(int frequency, std::size_t channel = 0) const;
 
   private:
+    void readOn();
+
     std::filesystem::path file_;
     pid_t recorder_ = 0;
     std::vector<std::array<float, 2>> frames_;
