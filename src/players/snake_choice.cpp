@@ -92,6 +92,7 @@ void Player::aiSnakeControlChoice(int& xDir, int& yDir) {
     }
     const bool randomise = !gameOptions.gridBlocksResolved.value() && gameOptions.aiSearchDepth >= randomiseFromDepth;
     std::vector<DirectionFound> found;
+    found.reserve(tasks.size());
     for (auto& [direction, task] : tasks) {
         found.push_back({direction, task.get()});
     }
