@@ -41,11 +41,29 @@ bool isHeldByPlayer(const Controls& device) {
                        [&](const auto& player) { return player->controls.get() == &device; });
 }
 
+MatchWorld realMatchWorld() {
+    MatchWorld world;
+    world.frames = realWorld();
+    world.devices = [] { return theControlsManager->devices; };
+    world.makeMusic = makeMatchMusic;
+    world.setUpdateRate = [](int rate) { setUpdateRate(rate, gameOptions); };
+    world.showRandomness = showRandomness;
+    world.showNoSpace = [](const std::string& text) {
+        setGameScreenSlot(menuScreenSlot);
+        showMessageBox(text);
+    };
+    return world;
+}
+
 // One match. Its members last for the match; what lasts a round is local to `playRound`.
 class Match {
   public:
-    Match(bool record, const std::string& replayName, ReplayTestOptions testOptions)
-        : record_(record), replayName_(replayName), testOptions_(testOptions), optionsBackup_(gameOptions) {}
+    Match(bool record, const std::string& replayName, ReplayTestOptions testOptions, const MatchWorld& world)
+        : record_(record),
+          replayName_(replayName),
+          testOptions_(testOptions),
+          world_(world),
+          optionsBackup_(gameOptions) {}
 
     bool play();
 
@@ -64,6 +82,7 @@ class Match {
     bool record_;
     std::string replayName_;
     ReplayTestOptions testOptions_;
+    const MatchWorld& world_;
     GameOptions optionsBackup_;
     std::optional<ReplayBeingPlayed> replay_;
     std::shared_ptr<Music> music_;
@@ -73,13 +92,12 @@ class Match {
 void Match::enter() {
     logText("New game" + (replayName_.empty() ? "" : ", replay: " + replayName_) + "\n");
     clearMatch();
-    onArenaResized = setGameScreenSize;
     if (replayName_.empty()) {
         reaches = Reaches{};
         return;
     }
     replay_.emplace(replayName_);
-    setUpdateRate(gameOptions.updaterate, gameOptions);
+    world_.setUpdateRate(gameOptions.updaterate);
 }
 
 void Match::makePlayers() {
@@ -88,13 +106,12 @@ void Match::makePlayers() {
         makeQuickStartTeams();
     }
     if (isPlayback()) {
-        makeReplayPlayers(replay_->playerSetups(), replay_->version(), theControlsManager->devices);
+        makeReplayPlayers(replay_->playerSetups(), replay_->version(), world_.devices());
     } else {
         gameOptions.numPlayers = gameOptions.quickStartPlayers + 1;
-        makeQuickStartPlayers(theControlsManager->devices);
+        makeQuickStartPlayers(world_.devices());
     }
     makeSnakeHunterTeams();
-    theControlsManager->isHeldByPlayer = isHeldByPlayer;
 }
 
 bool Match::setUp(Game& game, const PackagedReplayData& data) {
@@ -106,8 +123,7 @@ bool Match::setUp(Game& game, const PackagedReplayData& data) {
     try {
         setUpRound(size, data, game, false);
     } catch (const Game::PlayerPositionSetupError& error) {
-        setGameScreenSlot(menuScreenSlot);
-        showMessageBox(error.what());
+        world_.showNoSpace(error.what());
         return false;
     }
     game.shrinkCountdown = gameOptions.timeBeforeShrinkingFrames.value();
@@ -122,9 +138,9 @@ RoundEnding Match::runFrames(Game& game) {
     }
     sparks.clear();
     if (game.shrinkAllowed) {
-        music_ = makeMatchMusic();
+        music_ = world_.makeMusic();
     }
-    return FrameLoop(game, music_, testOptions_, replayName_, realWorld()).run();
+    return FrameLoop(game, music_, testOptions_, replayName_, world_.frames).run();
 }
 
 Match::RoundResult Match::playRound() {
@@ -136,7 +152,7 @@ Match::RoundResult Match::playRound() {
     const PackagedReplayData data = isPlayback() ? replay_->data(record_) : recorded.data();
     Game game(data);
     if (!firstRound_ && !isPlayback() && gameOptions.randomnessIncrease != 0 && gameOptions.randomness < 2) {
-        incrementRandomness(game);
+        incrementRandomness(game, world_.showRandomness);
     }
     if (!setUp(game, data)) {
         return RoundResult::NoSpace;
@@ -180,7 +196,7 @@ void Match::leave() {
     logText("Game ended\n");
     clearMatch();
     gameOptions = optionsBackup_;
-    setUpdateRate(gameOptions.updaterate, gameOptions);
+    world_.setUpdateRate(gameOptions.updaterate);
 }
 
 bool Match::play() {
@@ -203,7 +219,13 @@ bool Match::play() {
 }  // namespace
 
 bool play_the_game(bool record, const std::string& replayName, ReplayTestOptions testOptions) {
-    return Match(record, replayName, testOptions).play();
+    onArenaResized = setGameScreenSize;
+    theControlsManager->isHeldByPlayer = isHeldByPlayer;
+    return play_the_game(record, replayName, testOptions, realMatchWorld());
+}
+
+bool play_the_game(bool record, const std::string& replayName, ReplayTestOptions testOptions, const MatchWorld& world) {
+    return Match(record, replayName, testOptions, world).play();
 }
 
 }  // namespace vandrel

@@ -73,26 +73,6 @@ void removeAISnakes() {
     }
 }
 
-void showRandomness(Game& game) {
-    setGameScreenSlot(randomnessScreenSlot);
-    const Vector2Base<float> bottomCentre{static_cast<float>(gameScreenWidth / 2),
-                                          static_cast<float>(gameScreenHeight)};
-    game.addToast(std::make_unique<TimedToast>("Randomness up!", bottomCentre, Vector2Base<float>{0.0f, -5.0f},
-                                               randomnessTicks, FontId::Font30));
-    int counter = randomnessTicks;
-    framePump(
-        [&] {
-            game.updateToasts();
-            --counter;
-        },
-        [&] {
-            clearToBlack(*screen);
-            drawToasts(game.toasts, *screen);
-            presentFrame();
-        },
-        [&] { return counter < 1; });
-}
-
 }  // namespace
 
 std::vector<ScoringEntity> scoreRound(const Winners& winners) {
@@ -113,14 +93,34 @@ bool finishRound(const Game& game) {
     return maxScore >= gameOptions.winsNeeded;
 }
 
-void incrementRandomness(Game& game) {
+void incrementRandomness(Game& game, const std::function<void(Game& game)>& show) {
     const float roll = canonicalFloat(globalGenerator) * static_cast<float>(gameOptions.randomnessIncrease);
     if (!(roll > randomnessThreshold)) {
         return;
     }
     ++gameOptions.randomness;
     playSample(SampleIds::Splurge, normalVolume, centrePan, gameOptions.randomness * 300 + 100);
-    showRandomness(game);
+    show(game);
+}
+
+void showRandomness(Game& game) {
+    setGameScreenSlot(randomnessScreenSlot);
+    const Vector2Base<float> bottomCentre{static_cast<float>(gameScreenWidth / 2),
+                                          static_cast<float>(gameScreenHeight)};
+    game.addToast(std::make_unique<TimedToast>("Randomness up!", bottomCentre, Vector2Base<float>{0.0f, -5.0f},
+                                               randomnessTicks, FontId::Font30));
+    int counter = randomnessTicks;
+    framePump(
+        [&] {
+            game.updateToasts();
+            --counter;
+        },
+        [&] {
+            clearToBlack(*screen);
+            drawToasts(game.toasts, *screen);
+            presentFrame();
+        },
+        [&] { return counter < 1; });
 }
 
 }  // namespace vandrel

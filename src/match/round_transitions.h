@@ -1,6 +1,7 @@
 // What lies between two rounds of a match: the winners are scored, and the level's randomness may rise.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,8 +26,11 @@ std::vector<ScoringEntity> scoreRound(const Winners& winners);
 // rounds.
 bool finishRound(const Game& game);
 
-// May raise `randomness` by one and shows it for 120 ticks. Called between two rounds of a match whose randomness can
-// still rise; draws once from `globalGenerator` in any case.
-void incrementRandomness(Game& game);
+// May raise `randomness` by one, and then has it shown. Called between two rounds of a match whose randomness can still
+// rise; draws once from `globalGenerator` in any case.
+void incrementRandomness(Game& game, const std::function<void(Game& game)>& show);
+
+// The screen of a rise, which runs for 120 ticks; the toast on it belongs to the coming round.
+void showRandomness(Game& game);
 
 }  // namespace vandrel
