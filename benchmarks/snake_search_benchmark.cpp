@@ -136,9 +136,15 @@ void roaming(benchmark::State& state, SceneSize size, bool pillars) {
         snake.setSnakeLength(12);
         snake.dead = false;
         snake.speed = 1;
+        const Pixel before = snake.position();
         const bool decides = snake.x % squareSize == 0 && snake.y % squareSize == 0;
         const double time = secondsOf([&] { snake.update(replay, scene->game.get(), false); });
-        if (decides && ++decisions > 200) {
+        if (snake.position() == before) {
+            // Caught among those that do not move here: it turns round, its body gathered under its head.
+            snake.facing = opposite(snake.facing);
+            snake.snakeHistory.clear();
+            snake.snakeParts.clear();
+        } else if (decides && ++decisions > 200) {
             depths += gameOptions.aiSearchDepth;
             seconds += time;
             slowest = std::max(slowest, time);
