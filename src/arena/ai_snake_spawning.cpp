@@ -51,8 +51,8 @@ float spawnScore(const Game& game, Square square) {
 
 void announce(Game& game) {
     const std::string text = fmt::format("{} snake{} remaining!", game.aiSnakesLeft, game.aiSnakesLeft == 1 ? "" : "s");
-    const Vector2Base<float> centre{static_cast<float>(arenaWidthPixels() / 2),
-                                    static_cast<float>(arenaHeightPixels() / 2)};
+    const Pixel middle{arenaWidthPixels() / 2, arenaHeightPixels() / 2};
+    const Vector2Base<float> centre{static_cast<float>(middle.x), static_cast<float>(middle.y)};
     game.addToast(std::make_unique<TimedToast>(text, centre, announcementVelocity, announcementFrames, FontId::Font30));
 }
 

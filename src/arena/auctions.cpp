@@ -53,8 +53,8 @@ void announce(Game& game, const Auction& auction) {
     if (quantity > 1) {
         text += fmt::format(" x{}", quantity);
     }
-    const Vector2Base<float> bottomCentre{static_cast<float>(arenaWidthPixels() / 2),
-                                          static_cast<float>(arenaHeightPixels())};
+    const int middle = arenaWidthPixels() / 2;
+    const Vector2Base<float> bottomCentre{static_cast<float>(middle), static_cast<float>(arenaHeightPixels())};
     game.addToast(
         std::make_unique<TimedToast>(text, bottomCentre, announcementVelocity, auction.timer, FontId::Font30));
 }

@@ -105,8 +105,8 @@ void incrementRandomness(Game& game, const std::function<void(Game& game)>& show
 
 void showRandomness(Game& game) {
     setGameScreenSlot(randomnessScreenSlot);
-    const Vector2Base<float> bottomCentre{static_cast<float>(gameScreenWidth / 2),
-                                          static_cast<float>(gameScreenHeight)};
+    const int middle = gameScreenWidth / 2;
+    const Vector2Base<float> bottomCentre{static_cast<float>(middle), static_cast<float>(gameScreenHeight)};
     game.addToast(std::make_unique<TimedToast>("Randomness up!", bottomCentre, Vector2Base<float>{0.0f, -5.0f},
                                                randomnessTicks, FontId::Font30));
     int counter = randomnessTicks;
