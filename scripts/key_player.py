@@ -44,8 +44,9 @@ class KeyPlayer:
         """Lays a bomb where the player stands and does nothing about it."""
         self._screen.hold(0.05, self._keys["bomb"])
 
-    def is_alive(self):
-        return self.number in self._round.places
+    def bomb_laid_at(self):
+        """The update in which this player's last bomb was laid, as long as it or its flames are there; else None."""
+        return self._bomb[1] - FUSE_UPDATES - FLAME_UPDATES if self._bomb is not None else None
 
     def advance(self):
         here = self._round.square(self.number)

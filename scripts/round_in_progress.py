@@ -28,6 +28,8 @@ class RoundInProgress:
         self.bonus = [list(column[1::2]) for column in columns]
         self.places = {}
         self.updates = 0
+        self._met = set()
+        self._last_met = {}
         self._text = open(f"{replay}.verify", "rb")  # closed with the object
         self._rest = b""
         self._numbers = []
@@ -44,9 +46,20 @@ class RoundInProgress:
             if len(self._numbers) == 3:
                 number, x, y = self._numbers
                 self._numbers = []
-                if number == 0 or 0 not in self.places:
-                    self.updates += 1
+                self._count(number)
                 self.places[number] = (x, y)
+
+    def _count(self, number):
+        """An update is over when a player is met again who was met since the last; the dead write nothing."""
+        if number in self._met:
+            self.updates += 1
+            self._met = set()
+        self._met.add(number)
+        self._last_met[number] = self.updates
+
+    def silent_updates(self, number):
+        """For how many updates nothing was written of this player: the dead write nothing."""
+        return self.updates - self._last_met.get(number, self.updates)
 
     def square(self, number):
         """The square on which the player mainly stands."""
