@@ -84,12 +84,12 @@ Canvas paintPortraits() {
     int x = 9;
     for (const Exhibit& exhibit : upper) {
         const Canvas face = recoloured(sprite(std::string("heads/") + exhibit.head + "_D_014"), exhibit.colour);
-        hang(scene, x, 14, face, 1, exhibit.ground, *exhibit.frame);
+        hang(scene, x, 8, face, 1, exhibit.ground, *exhibit.frame);
         x += 46;
     }
-    hang(scene, 100, 66 - 1, sprite("powerups/B_Cash").cropped(6, 6, 20, 12), 1, {60, 50, 70}, walnut);
-    paintVisitor(scene, 22, 104, "Head0", {70, 200, 70});
-    paintVisitor(scene, 62, 106, "Head10", {240, 120, 200});
+    hang(scene, 100, 58, sprite("arena/R_Right").cropped(0, 8, 32, 16), 1, {150, 196, 224}, walnut);
+    paintVisitor(scene, 14, 108, "Head0", {70, 200, 70});
+    paintVisitor(scene, 58, 109, "Head10", {240, 120, 200});
     paintRope(scene, 100, 138, 102);
     return scene;
 }
@@ -101,8 +101,7 @@ Canvas paintStillLifes() {
     paintSpotlight(scene, 44, 34);
     paintSpotlight(scene, 118, 26);
     hang(scene, 8, 9, sprite("arena/Bomb1"), 2, {246, 220, 150}, gilt);
-    hang(scene, 92, 10, sprite("arena/Explo1").cropped(0, 6, 32, 20), 1, {60, 40, 60}, walnut);
-    hang(scene, 92, 50, sprite("arena/R_Right").cropped(0, 8, 32, 16), 1, {150, 196, 224}, silver);
+    hang(scene, 96, 8, sprite("arena/Explo1").cropped(0, 6, 32, 20), 1, {60, 40, 60}, walnut);
     // The pride of the house, on a pedestal.
     const Ramp marble{{250, 246, 240}, {216, 210, 208}, {140, 134, 150}};
     shade(scene, ellipse(60, 106, 24, 4), 0.5f, 4);

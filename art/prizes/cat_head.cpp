@@ -7,13 +7,24 @@
 namespace vandrel::art {
 namespace {
 
+// Patches are laid by hand on a face, so that they do not cover the eyes by chance: one over each ear.
+Material faceMaterial(const CatCoat& coat, const Pose& head) {
+    if (coat.pattern != CoatPattern::Patches) {
+        return plain(coat.pattern == CoatPattern::Points ? coat.marks : coat.fur);
+    }
+    const Shape left = head.oval(-0.85f, -0.62f, 0.78f, 0.62f, 0.5f),
+                right = head.oval(0.8f, -0.75f, 0.66f, 0.6f, -0.5f);
+    return [coat, left, right](float x, float y) {
+        return left.distance(x, y) < 0 ? coat.marks : (right.distance(x, y) < 0 ? blackFur : coat.fur);
+    };
+}
+
 void paintEars(Canvas& layer, const CatCoat& coat, const Pose& head) {
-    const Ramp fur = coat.pattern == CoatPattern::Points ? coat.marks : coat.fur;
-    const Material patched = coat.pattern == CoatPattern::Patches ? coatMaterial(coat, head) : plain(fur);
+    const Material fur = faceMaterial(coat, head);
     for (const float side : {-1.0f, 1.0f}) {
         const Shape ear = grown(head.corners({{side * 0.92f, -0.05f}, {side * 0.86f, -1.12f}, {side * 0.2f, -0.66f}}),
                                 head.size * 0.05f);
-        fillFur(layer, ear, patched, head.size * 0.25f, coat.fluff * 0.5f, 3);
+        fillFur(layer, ear, fur, head.size * 0.25f, coat.fluff * 0.5f, 3);
         const Ramp pink = rampOf(coat.nose);
         fillSmooth(layer, head.corners({{side * 0.8f, -0.36f}, {side * 0.78f, -0.9f}, {side * 0.42f, -0.66f}}), pink,
                    head.size * 0.2f);
@@ -95,7 +106,7 @@ void paintEye(Canvas& layer, const CatCoat& coat, const CatLook& look, const Pos
 void paintCatHead(Canvas& scene, const CatCoat& coat, const CatLook& look, const Pose& pose) {
     Pose head = pose;
     head.tilt += look.headTilt;
-    const Material fur = coat.pattern == CoatPattern::Patches ? coatMaterial(coat, head) : plain(coat.fur);
+    const Material fur = coat.pattern == CoatPattern::Patches ? faceMaterial(coat, head) : plain(coat.fur);
     paintLayer(scene, rimOf(coat.pattern == CoatPattern::Points ? coat.marks : coat.fur), [&](Canvas& layer) {
         paintEars(layer, coat, head);
         const Shape cheeks = bothSides([&](float side) { return head.oval(side * 0.58f, 0.32f, 0.46f, 0.4f); });

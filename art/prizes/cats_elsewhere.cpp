@@ -30,7 +30,7 @@ Canvas paintGardenCat() {
             flower % 3 == 0 ? Colour{248, 232, 120} : (flower % 3 == 1 ? palette::white : Colour{236, 130, 160});
         paintFlower(scene, x, y, 2.2f + (y - 60) * 0.04f, petals, palette::goldDark);
     }
-    paintSittingCat(scene, tabbyCat, {Eyes::Open, 0.7f, -0.6f, 0.16f}, {62, 103, 19.5f});
+    paintSittingCat(scene, tabbyCat, {Eyes::Open, 0.7f, -0.6f, 0.16f}, {50, 103, 19.5f});
     // What it looks at.
     paintLayer(scene, palette::ink, [](Canvas& layer) {
         fillSmooth(layer, ellipse(112, 23, 6, 7), palette::fire, 5);

@@ -49,7 +49,7 @@ Canvas paintPianoCat() {
     });
     paintSheetMusic(scene, 104, 36);
     paintSheetMusic(scene, 10, 36);
-    paintSittingCat(scene, tuxedoCat, {Eyes::Open, 0, 0.6f, 0.1f}, {75, 101, 20});
+    paintSittingCat(scene, tuxedoCat, {Eyes::Open, 0, 0.6f, 0.1f}, {75, 107, 20});
     // The keyboard stands before it; only the paws come over.
     scene.fillRect(0, 76, photoWidth, 36, lacquer.middle);
     paintKeys(scene, 80, 104);
@@ -143,8 +143,8 @@ Canvas paintFriends() {
         scene.fillRect(x + 2, 102, 1, 3, palette::bone);
         scene.fillRect(x + 7, 102, 1, 3, palette::bone);
     }
-    paintFerret(scene, {98, 98, 15.5f});
-    paintLoafingCat(scene, gingerCat, {Eyes::Shut, 0, 0, 0.12f}, {48, 99, 19});
+    paintLoafingCat(scene, gingerCat, {Eyes::Shut, 0, 0, 0.12f}, {44, 98, 18});
+    paintFerret(scene, {99, 100, 17});
     return scene;
 }
 

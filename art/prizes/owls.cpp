@@ -148,9 +148,9 @@ Canvas paintMoonOwl() {
     Canvas scene = newScene(palette::ink);
     fillGradient(scene, 0, 112, {18, 20, 58}, {74, 62, 116});
     paintStars(scene, 100, 70, 6);
-    glow(scene, circle(92, 46, 44), {250, 240, 200}, 0.35f, 26);
-    fillSmooth(scene, circle(92, 46, 38), {{255, 252, 226}, {246, 232, 186}, {214, 190, 150}}, 30);
-    for (const Point& crater : {Point{112, 34}, Point{106, 62}, Point{70, 30}, Point{116, 52}}) {
+    glow(scene, circle(58, 44, 44), {250, 240, 200}, 0.35f, 26);
+    fillSmooth(scene, circle(58, 44, 36), {{255, 252, 226}, {246, 232, 186}, {214, 190, 150}}, 30);
+    for (const Point& crater : {Point{42, 28}, Point{36, 52}, Point{60, 22}, Point{52, 66}}) {
         fill(scene, circle(crater.x, crater.y, 4.5f), {226, 206, 160});
     }
     for (int hill = 0; hill < 150; ++hill) {
@@ -174,7 +174,7 @@ Canvas paintMoonOwl() {
                   false,
                   0.32f,
                   -0.05f};
-    paintOwl(scene, owl, {80, 84, 25});
+    paintOwl(scene, owl, {88, 85, 23});
     return scene;
 }
 

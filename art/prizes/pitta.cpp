@@ -48,7 +48,7 @@ void paintPitta(Canvas& scene) {
         fillSmooth(layer, ellipse(64, 72, 58, 34), {{255, 255, 252}, {228, 232, 240}, {160, 166, 190}}, 7);
     });
     fill(scene, ring(ellipse(64, 72, 48, 26), 1), palette::iceBlue);
-    const Shape bite = uniteAll({circle(102, 58, 8), circle(106, 67, 8), circle(95, 51, 7)});
+    const Shape bite = uniteAll({circle(101, 57, 8), circle(106, 67, 9), circle(104, 78, 7)});
     const Shape whole = rotated(ellipse(62, 70, 43, 24), 62, 70, -0.08f);
     const Material baked = [](float x, float y) {
         const float toast = cloudNoise(x / 7, y / 6, 12, 3);
@@ -87,9 +87,9 @@ Canvas paintBreakfast() {
     // A mug of tea, steaming.
     shade(scene, ellipse(34, 34, 22, 8), 0.4f, 8);
     paintLayer(scene, palette::ink, [](Canvas& layer) {
-        fillSmooth(layer, ring(ellipse(49, 20, 9, 8), 4), rampOf(palette::fireOrange), 3);
-        fillSmooth(layer, unite(rectangle(16, 12, 32, 22, 6), ellipse(32, 12, 16, 5)), rampOf(palette::fireOrange), 12);
-        fill(layer, ellipse(32, 12, 13, 3.4f), {128, 70, 40});
+        fillSmooth(layer, ring(ellipse(49, 25, 9, 8), 4), rampOf(palette::fireOrange), 3);
+        fillSmooth(layer, unite(rectangle(16, 16, 32, 23, 6), ellipse(32, 16, 16, 5)), rampOf(palette::fireOrange), 12);
+        fill(layer, ellipse(32, 16, 13, 3.4f), {128, 70, 40});
     });
     paintJar(scene);
     paintPitta(scene);

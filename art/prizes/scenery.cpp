@@ -46,7 +46,7 @@ void paintBoards(Canvas& scene, int row, const Ramp& wood, Colour skirting) {
     const float middle = static_cast<float>(scene.width()) / 2;
     const float depth = static_cast<float>(scene.height() - row);
     for (int y = row; y < scene.height(); ++y) {
-        const float near = (static_cast<float>(y - row) + 12.0f) / (depth + 12.0f);
+        const float near = (static_cast<float>(y - row) + 26.0f) / (depth + 26.0f);
         for (int x = 0; x < scene.width(); ++x) {
             const float across = (static_cast<float>(x) - middle) / (near * 22.0f) + 40.0f;
             const float inBoard = across - std::floor(across);

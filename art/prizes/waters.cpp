@@ -12,7 +12,7 @@ namespace {
 
 constexpr Ramp pelt{{172, 122, 84}, {120, 78, 60}, {70, 44, 48}};
 constexpr Ramp belly{{236, 206, 164}, {204, 164, 124}, {140, 100, 86}};
-constexpr Ramp bill{{132, 132, 148}, {82, 80, 100}, {46, 40, 62}};
+constexpr Ramp bill{{190, 190, 204}, {132, 128, 148}, {72, 64, 90}};
 constexpr Ramp web{{250, 172, 92}, {220, 126, 64}, {148, 74, 52}};
 
 void paintRiver(Canvas& scene) {

@@ -1,0 +1,182 @@
+// The prize pictures under game/images/prizes as the loot box room will show them: every name there, of a size that
+// leaves room for the words, opaque, framed alike, and no two of them alike.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "images/recolour.h"
+#include "painter/png_file.h"
+#include "presentation/bitmap_ids.h"
+#include "prizes/photo.h"
+
+namespace vandrel::art {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int firstPrize = 229;
+// The scene inside the frame.
+constexpr int innerLeft = frameThickness, innerTop = frameThickness;
+constexpr int innerRight = photoWidth - frameThickness, innerBottom = photoHeight - frameThickness;
+
+fs::path prizesDirectory() {
+    return fs::path(VANDREL_GAME_DIR) / "images" / "prizes";
+}
+
+// Every prize as one pixel for each enlarged one. What the enlarged file itself must hold is asked while it is read.
+const std::map<std::string, Canvas>& photos() {
+    static const std::map<std::string, Canvas> all = [] {
+        std::map<std::string, Canvas> found;
+        for (const fs::directory_entry& entry : fs::directory_iterator(prizesDirectory())) {
+            const Canvas large = readPng(entry.path());
+            Canvas small(photoWidth, photoHeight, clear);
+            for (int y = 0; y < photoHeight; ++y) {
+                for (int x = 0; x < photoWidth; ++x) {
+                    small.set(x, y, large.at(x * photoScale, y * photoScale));
+                }
+            }
+            EXPECT_TRUE(large == small.scaled(photoScale)) << entry.path() << " is not made of whole enlarged pixels";
+            found.insert({entry.path().stem().string(), small});
+        }
+        return found;
+    }();
+    return all;
+}
+
+int difference(Colour a, Colour b) {
+    return std::abs(a.red - b.red) + std::abs(a.green - b.green) + std::abs(a.blue - b.blue);
+}
+
+// The share of the inner pixels, in hundredths, that a viewer sees to be of another colour.
+int differingShare(const Canvas& one, const Canvas& other) {
+    int differing = 0;
+    for (int y = innerTop; y < innerBottom; ++y) {
+        for (int x = innerLeft; x < innerRight; ++x) {
+            differing += difference(one.at(x, y), other.at(x, y)) > 60 ? 1 : 0;
+        }
+    }
+    return differing * 100 / ((innerRight - innerLeft) * (innerBottom - innerTop));
+}
+
+std::size_t coloursWithin(const Canvas& photo, int left, int top, int right, int bottom) {
+    std::set<std::tuple<int, int, int>> colours;
+    for (int y = top; y < bottom; ++y) {
+        for (int x = left; x < right; ++x) {
+            const Colour colour = photo.at(x, y);
+            colours.insert({colour.red, colour.green, colour.blue});
+        }
+    }
+    return colours.size();
+}
+
+// Whether the visible pixels of the sprite stand somewhere in the picture, unchanged.
+bool shows(const Canvas& photo, const Canvas& sprite) {
+    const auto standsAt = [&](int left, int top) {
+        for (int y = 0; y < sprite.height(); ++y) {
+            for (int x = 0; x < sprite.width(); ++x) {
+                if (sprite.visible(x, y) && sprite.at(x, y) != photo.at(left + x, top + y)) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    };
+    for (int top = 0; top + sprite.height() <= photo.height(); ++top) {
+        for (int left = 0; left + sprite.width() <= photo.width(); ++left) {
+            if (standsAt(left, top)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+TEST(Prizes, AreThoseOfTheBitmapTableBothWays) {
+    std::set<std::string> wanted, found;
+    for (int id = firstPrize; id < bitmapCount; ++id) {
+        wanted.insert(bitmapNames[static_cast<std::size_t>(id)]);
+    }
+    std::uintmax_t bytes = 0;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(prizesDirectory())) {
+        EXPECT_EQ(entry.path().extension(), ".png") << entry.path();
+        found.insert(entry.path().stem().string());
+        bytes += entry.file_size();
+    }
+    EXPECT_EQ(found, wanted);
+    EXPECT_LT(bytes, 2U * 1024 * 1024) << "all of them together";
+}
+
+TEST(Prizes, LeaveRoomForTheWordsAndAreOpaque) {
+    // Centred on a screen 1080 high, between the caption's last row and the prompt's first.
+    constexpr int captionEnd = 78, promptStart = 1026, screenHeight = 1080;
+    constexpr int height = photoHeight * photoScale;
+    static_assert((screenHeight - height) / 2 >= captionEnd && (screenHeight + height) / 2 <= promptStart);
+    for (const auto& [name, photo] : photos()) {
+        EXPECT_EQ(photo.countVisible(), static_cast<std::size_t>(photoWidth * photoHeight)) << name;
+        for (int y = 0; y < photoHeight; ++y) {
+            for (int x = 0; x < photoWidth; ++x) {
+                const Colour colour = photo.at(x, y);
+                if (colour.alpha != 255 || (colour.red > 240 && colour.green < 16 && colour.blue > 240)) {
+                    ADD_FAILURE() << name << " at " << x << ", " << y;
+                }
+            }
+        }
+    }
+}
+
+TEST(Prizes, HangInOneKindOfFrame) {
+    const Canvas& pattern = photos().begin()->second;
+    for (const auto& [name, photo] : photos()) {
+        int foreign = 0;
+        for (int y = 0; y < photoHeight; ++y) {
+            for (int x = 0; x < photoWidth; ++x) {
+                const bool inside = x >= innerLeft && x < innerRight && y >= innerTop && y < innerBottom;
+                foreign += !inside && photo.at(x, y) != pattern.at(x, y) ? 1 : 0;
+            }
+        }
+        EXPECT_EQ(foreign, 0) << name;
+    }
+    EXPECT_GT(difference(pattern.at(0, 50), pattern.at(2, 50)), 100) << "the edge and the paper";
+    EXPECT_GT(difference(pattern.at(2, 50), pattern.at(3, 50)), 100) << "the paper and the scene's edge";
+}
+
+TEST(Prizes, AreScenesOfTheirOwn) {
+    for (auto one = photos().begin(); one != photos().end(); ++one) {
+        for (auto other = std::next(one); other != photos().end(); ++other) {
+            EXPECT_GE(differingShare(one->second, other->second), 40) << one->first << " and " << other->first;
+        }
+    }
+}
+
+TEST(Prizes, HaveSomethingToLookAt) {
+    constexpr int middleX = photoWidth / 2, middleY = photoHeight / 2;
+    for (const auto& [name, photo] : photos()) {
+        // The subject stands in the middle, and no quarter is left empty.
+        EXPECT_GE(coloursWithin(photo, middleX - 30, middleY - 25, middleX + 30, middleY + 25), 16U) << name;
+        for (const int left : {innerLeft, middleX}) {
+            for (const int top : {innerTop, middleY}) {
+                const int right = left == innerLeft ? middleX : innerRight;
+                const int bottom = top == innerTop ? middleY : innerBottom;
+                EXPECT_GE(coloursWithin(photo, left, top, right, bottom), 20U)
+                    << name << " from " << left << ", " << top;
+            }
+        }
+    }
+}
+
+TEST(Prizes, GalleriesHangTheGamesOwnSprites) {
+    const auto sprite = [](const char* name) { return readPng(fs::path(VANDREL_GAME_DIR) / "images" / name); };
+    EXPECT_TRUE(shows(photos().at("ArtWall2"), sprite("arena/Snail.png").cropped(0, 0, 32, 36)));
+    EXPECT_TRUE(shows(photos().at("ArtWall1"), recoloured(sprite("heads/Head9_D_014.png"), {240, 190, 60})));
+    EXPECT_FALSE(shows(photos().at("Timothy"), sprite("arena/Snail.png").cropped(0, 0, 32, 36)));
+}
+
+}  // namespace
+}  // namespace vandrel::art
