@@ -48,6 +48,9 @@ Canvas paintFloorCat() {
     Canvas scene = newScene(palette::bone);
     paintWall(scene, {120, 150, 176}, {132, 162, 188}, Wallpaper::Dots);
     paintBoards(scene, 44, {{214, 160, 104}, {180, 124, 78}, {122, 76, 54}}, {236, 230, 216});
+    paintWallPicture(scene, 22, 8, 38, 24, {{255, 250, 240}, {222, 210, 196}, {150, 136, 140}}, {250, 206, 150},
+                     {176, 104, 92});
+    paintPlant(scene, 122, 50, 17, palette::leaf, rampOf(palette::goldDark));
     const Ramp red{{214, 96, 72}, {172, 56, 56}, {110, 32, 48}};
     const Shape rug = polygon({{22, 62}, {128, 62}, {146, 106}, {4, 106}});
     fillFur(scene, rug, red, 3, 0.2f, 5);

@@ -105,7 +105,8 @@ void paintFerretHead(Canvas& scene, const Pose& head) {
 void paintFerret(Canvas& scene, const Pose& ferret) {
     shade(scene, ferret.oval(0.4f, 0, 3.0f, 0.3f), 0.5f, 5);
     paintLayer(scene, rimOf(ferretSable), [&](Canvas& layer) {
-        fillFur(layer, ferret.tube({{1.8f, -0.6f}, {2.6f, -0.9f}, {3.1f, -1.7f}}, 0.28f), ferretSable, 5, 1.2f, 6);
+        fillFur(layer, ferret.tube({{1.8f, -0.6f}, {2.4f, -0.8f}, {2.5f, -1.5f}, {2.2f, -2.0f}}, 0.28f), ferretSable, 5,
+                1.2f, 6);
     });
     const Material sides = [ferret](float x, float y) {
         return y > ferret.y - ferret.size * 0.75f && x < ferret.x + ferret.size * 1.3f ? ferretCream
@@ -131,6 +132,13 @@ Canvas paintFriends() {
     });
     paintLayer(scene, rimOf(sofa),
                [&](Canvas& layer) { fillFur(layer, roundedBox(75, 101, 80, 16, 7), sofa, 8, 0.2f, 5); });
+    for (const float x : {22.0f, 126.0f}) {
+        const Ramp silk = rampOf(x < 75 ? Colour{232, 190, 96} : Colour{110, 176, 160});
+        paintLayer(scene, rimOf(silk), [&](Canvas& layer) {
+            fillFur(layer, rotated(roundedBox(x, 56, 15, 15, 4), x, 56, x < 75 ? 0.6f : 0.9f), silk, 8, 0.2f, 9);
+        });
+        fill(scene, circle(x, 56, 1.5f), silk.dark);
+    }
     // A crocheted blanket of squares under both.
     for (int square = 0; square < 15; ++square) {
         constexpr Colour wool[]{{240, 200, 90}, {110, 180, 150}, {236, 130, 90}};
@@ -144,7 +152,7 @@ Canvas paintFriends() {
         scene.fillRect(x + 7, 102, 1, 3, palette::bone);
     }
     paintLoafingCat(scene, gingerCat, {Eyes::Shut, 0, 0, 0.12f}, {44, 98, 18});
-    paintFerret(scene, {99, 100, 17});
+    paintFerret(scene, {97, 100, 17});
     return scene;
 }
 

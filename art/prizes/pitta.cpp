@@ -48,23 +48,28 @@ void paintPitta(Canvas& scene) {
         fillSmooth(layer, ellipse(64, 72, 58, 34), {{255, 255, 252}, {228, 232, 240}, {160, 166, 190}}, 7);
     });
     fill(scene, ring(ellipse(64, 72, 48, 26), 1), palette::iceBlue);
-    const Shape bite = uniteAll({circle(101, 57, 8), circle(106, 67, 9), circle(104, 78, 7)});
-    const Shape whole = rotated(ellipse(62, 70, 43, 24), 62, 70, -0.08f);
+    const Shape bite = uniteAll({circle(99, 63, 8), circle(104, 72, 9), circle(102, 83, 7)});
+    const Shape whole = rotated(ellipse(60, 75, 42, 22), 60, 75, -0.08f);
     const Material baked = [](float x, float y) {
         const float toast = cloudNoise(x / 7, y / 6, 12, 3);
         return toast > 0.58f ? Ramp{bread.middle, bread.dark, palette::brickDark} : bread;
     };
+    // Another, cut in half so that its pocket gapes, waits behind.
+    const Shape half = intersect(rotated(ellipse(80, 50, 34, 18), 80, 50, 0.3f), rectangle(62, 20, 60, 60));
+    paintLayer(scene, rimOf(bread), [&](Canvas& layer) { fillFur(layer, half, baked, 6, 0.3f, 7); });
+    fill(scene, rotated(ellipse(63, 45, 1.6f, 9), 63, 45, 0.1f), {112, 70, 52});
+    shade(scene, whole, 0.35f, 5);
     paintLayer(scene, rimOf(bread), [&](Canvas& layer) { fillFur(layer, subtract(whole, bite), baked, 6, 0.3f, 4); });
     // The spread, with the marks of the knife in it.
     const Shape smear =
-        uniteAll({rotated(ellipse(54, 70, 29, 15), 54, 70, -0.1f), ellipse(74, 66, 18, 12), ellipse(36, 76, 12, 8)});
+        uniteAll({rotated(ellipse(52, 75, 28, 14), 52, 75, -0.1f), ellipse(72, 71, 18, 11), ellipse(34, 80, 12, 7)});
     fillFur(scene, subtract(smear, grown(bite, 3)), spread, 5, 0.8f, 5);
     for (int sweep = 0; sweep < 5; ++sweep) {
-        const float y = 61 + static_cast<float>(sweep) * 4.4f;
+        const float y = 66 + static_cast<float>(sweep) * 4.4f;
         fillSmooth(scene, curve({{32, y + 4}, {50, y}, {66, y + 2}, {80, y - 2}}, 0.8f),
                    {{196, 136, 92}, {120, 70, 50}, {80, 42, 38}}, 2);
     }
-    for (const Point& gloss : {Point{42, 62}, Point{60, 58}, Point{76, 60}}) {
+    for (const Point& gloss : {Point{40, 67}, Point{58, 63}, Point{74, 65}}) {
         fill(scene, rotated(ellipse(gloss.x, gloss.y, 4, 0.9f), gloss.x, gloss.y, -0.2f), {252, 226, 196});
     }
 }

@@ -57,10 +57,10 @@ void paintPaw(Canvas& scene, const Pose& paw) {
 
 void paintPlatypusHead(Canvas& scene, const Pose& head) {
     paintLayer(scene, rimOf(bill), [&](Canvas& layer) {
-        fillSmooth(
-            layer,
-            blendUnite(head.limb({-0.4f, 0.2f}, {-1.2f, 0.34f}, 0.3f, 0.36f), head.oval(-1.5f, 0.36f, 0.5f, 0.3f), 5),
-            bill, head.size * 0.3f);
+        fillSmooth(layer,
+                   blendUnite(head.limb({-0.4f, 0.2f}, {-1.2f, 0.34f}, 0.3f, 0.36f),
+                              head.oval(-1.45f, 0.36f, 0.62f, 0.36f), 5),
+                   bill, head.size * 0.3f);
         stroke(layer, head.at(-0.7f, 0.46f), head.at(-1.9f, 0.44f), bill.dark);
         stroke(layer, head.at(-0.7f, 0.46f), head.at(-0.5f, 0.3f), bill.dark);
         for (const float x : {-1.55f, -1.4f}) {
