@@ -22,8 +22,7 @@ constexpr Ramp gilt{{255, 236, 150}, {226, 172, 72}, {140, 88, 36}};
 constexpr Ramp walnut{{176, 116, 72}, {124, 76, 54}, {70, 42, 44}};
 constexpr Ramp silver = palette::steel;
 
-// A framed picture with its top left corner at (x, y): the sprite, cropped to `width` x `height` pixels around its
-// middle and enlarged, on a coloured ground.
+// Hangs the exhibit, enlarged, on a coloured ground in a frame whose top left corner is (x, y), with a plate under it.
 void hang(Canvas& scene, int x, int y, const Canvas& exhibit, int scale, Colour ground, const Ramp& frame) {
     const int width = exhibit.width() * scale + 4, height = exhibit.height() * scale + 4;
     shade(scene,

@@ -2,14 +2,14 @@
 // leaves room for the words, opaque, framed alike, and no two of them alike.
 #include <gtest/gtest.h>
 
-#include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
 #include <tuple>
-#include <vector>
 
 #include "images/recolour.h"
 #include "painter/png_file.h"
