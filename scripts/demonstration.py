@@ -1,40 +1,26 @@
-"""The demonstration that ./play gives where there is no display: the real game on a virtual screen, two players at one
-keyboard with real key presses, and pictures of it in a folder. Used by scripts/start-game."""
+"""The demonstration that ./play gives where there is no display: the real game on a virtual screen, a whole match of two players
+at one keyboard with real key presses, and pictures of it in a folder. Used by scripts/start-game."""
 
 import shutil
 import time
 
 import stage
+from key_player import KeyPlayer
+from round_in_progress import RoundInProgress, newest_replay
 
 PICTURES = stage.REPOSITORY / "demo-pictures"
 
 # The two key sets that the first two players get: up, down, left, right, bomb.
 FIRST = {"up": "Up", "down": "Down", "left": "Left", "right": "Right", "bomb": "Control_R"}
 SECOND = {"up": "w", "down": "s", "left": "a", "right": "d", "bomb": "Control_L"}
+FAST_FORWARD = "F8"
 
-# The first player starts in the top left corner and the second in the bottom right one, each with two free squares along
-# either wall. So one script serves both: the second player's hands do everything turned by half a circle.
-SQUARES = (27, 15)
-TURNED = {"up": "down", "down": "up", "left": "right", "right": "left", "bomb": "bomb"}
-CORNER, ALONG, DOWN = (1, 1), (3, 1), (1, 3)
+POWERUPS = {1: "extra-bomb", 2: "extra-range", 3: "speed", 7: "shield", 8: "cash", 17: "hidden-shield"}
 
-# What happens, step by step. A walk goes on until the player is seen on the square; "lay" presses the bomb key, which is
-# held until the next walk is over. A burst is a picture taken once a good part of the screen has changed. Flames reach
-# along the row and the column only, so a player is safe around a corner; who stays beside the last bombs is not.
-SCRIPT = [
-    ("picture", "arena"),
-    ("walk", "right", ALONG), ("lay",), ("walk", "left", CORNER), ("picture", "bombs-laid"), ("walk", "down", DOWN),
-    ("picture", "round-the-corner"), ("burst", "explosions"), ("wait", 0.2), ("picture", "walls-crumbling"), ("wait", 0.6),
-    ("lay",), ("walk", "up", CORNER), ("walk", "right", ALONG), ("burst", "second-bombs"), ("wait", 0.8),
-    ("lay",), ("walk", "left", CORNER), ("walk", "down", DOWN), ("burst", "third-bombs"), ("wait", 0.8),
-    ("picture", "what-is-left"), ("lay",), ("wait", 0.3), ("burst", "the-end-of-both"), ("wait", 0.5),
-    ("picture", "particles"),
-]
-
-LAST_SECOND = 45  # of the demonstration, on however slow a machine
-LONGEST_STEP = 5  # seconds
-AGAINST_THE_WALL = 0.2  # seconds that a walk into the corner goes on after the player has come into sight there
-BURST_PIXELS = 6000  # about three squares of the arena
+LAST_SECOND = 50    # of the demonstration, on however slow a machine
+FIRST_ROUND = 20    # seconds in which both gather powerups, unless they are quicker
+ENOUGH_KINDS = 5    # of powerups
+BOMB_STAGES = {30: "bomb", 93: "explosion", 104: "walls-crumbling"}  # by updates since the bomb was laid
 
 
 class Album:
@@ -47,6 +33,13 @@ class Album:
     def take(self, name):
         self._pictures.append((name, self._screen.picture()))
 
+    def has(self, name):
+        return any(name == taken for taken, _ in self._pictures)
+
+    def take_once(self, name):
+        if not self.has(name):
+            self.take(name)
+
     def write(self):
         shutil.rmtree(PICTURES, ignore_errors=True)
         PICTURES.mkdir()
@@ -56,65 +49,97 @@ class Album:
             print(f"  {path.name}", flush=True)
 
 
-class Hands:
-    """The hands of both players on the one keyboard, with an eye on the screen."""
+class Match:
+    """A match played through the keyboard: one round of gathering, then short ones, which the second player loses, until
+    somebody has won it."""
 
-    def __init__(self, screen, album):
-        self._screen = screen
+    def __init__(self, the_stage, game, album, deadline):
+        self._stage = the_stage
+        self._screen = the_stage.screen
+        self._game = game
         self._album = album
+        self._deadline = deadline
+        self._players = [KeyPlayer(self._screen, FIRST, 0), KeyPlayer(self._screen, SECOND, 1)]
+        self._replay = None
+        self._round = None
 
-    def do(self, action, *details):
-        getattr(self, action)(*details)
+    def play(self):
+        if not self._next_round():
+            return
+        self._album.take("arena")
+        self._gather()
+        self._lose()
+        self._screen.hold(0.05, FAST_FORWARD)
+        while self._next_round():
+            self._album.take(f"round-{self._replay.name.split('.')[0]}")
+            self._lose()
+        if "Game ended" in self._game.log():
+            self._album.take("the-match-is-decided")
 
-    def picture(self, name):
-        self._album.take(name)
+    def _goes_on(self):
+        return self._game.running() and time.monotonic() < self._deadline and "Game ended" not in self._game.log()
 
-    def wait(self, seconds):
-        time.sleep(seconds)
+    def _next_round(self):
+        """Waits for the next round to begin; False when there is none."""
+        while self._goes_on():
+            replay = newest_replay(self._stage.data_home)
+            if replay is not None and replay != self._replay and self._has_begun(replay):
+                self._replay = replay
+                self._round = RoundInProgress(replay)
+                for player in self._players:
+                    player.start(self._round)
+                return True
+            time.sleep(0.02)
+        return False
 
-    def lay(self):
-        self._screen.press(FIRST["bomb"], SECOND["bomb"])
+    @staticmethod
+    def _has_begun(replay):
+        text = replay.with_name(replay.name + ".verify")
+        return text.exists() and text.stat().st_size > 0
 
-    def burst(self, name):
-        self._screen.release_all()
-        before = self._screen.picture()
-        self._poll(lambda picture: picture.differing_pixels(before) > BURST_PIXELS)
-        self._album.take(name)
+    def _gather(self):
+        """Both play for powerups until they have found enough kinds."""
+        end = min(time.monotonic() + FIRST_ROUND, self._deadline)
+        while self._goes_on() and time.monotonic() < end and not self._round.is_over():
+            self._round.follow()
+            if len(self._round.places) < len(self._players):
+                continue
+            for player in self._players:
+                player.advance()
+            self._watch()
+            if len({POWERUPS[bonus] for player in self._players for bonus in player.taken}) >= ENOUGH_KINDS:
+                break
+            time.sleep(0.005)
+        for player in self._players:
+            player.stop()
 
-    def walk(self, control, square):
-        """Both players walk until both are seen where they want to go. Each lets go when it is there, but in the corner,
-        where the wall stops it."""
-        before = self._screen.picture()
-        to_go = {FIRST[control]: square, SECOND[TURNED[control]]: turned(square)}
-        self._screen.press(*to_go)
+    def _watch(self):
+        """Takes a picture of what has just happened for the first time."""
+        for player in self._players:
+            laid = player.bomb_laid_at()
+            if laid is not None:
+                for age, name in BOMB_STAGES.items():
+                    if age <= self._round.updates - laid < age + 8:
+                        self._album.take_once(name)
+            for bonus in player.taken:
+                self._album.take_once(f"takes-{POWERUPS[bonus]}")
 
-        def all_there(picture):
-            there = [key for key, target in to_go.items() if square_has_changed(before, picture, target)]
-            if there and square != CORNER:
-                self._screen.release(*there)
-            for key in there:
-                del to_go[key]
-            return not to_go
+    def _lose(self):
+        """The second player lays a bomb and stays beside it, as often as it takes."""
+        loser = self._players[1]
+        started = self._round.updates
+        while self._goes_on() and not self._round.is_over():
+            self._round.follow()
+            if self._round.updates >= started:
+                loser.lay_bomb()
+                started = self._round.updates + 60
+            if self._is_dead(loser):
+                self._album.take(f"the-end-of-round-{self._replay.name.split('.')[0]}")
+                break
+            time.sleep(0.005)
 
-        self._poll(all_there)
-        time.sleep(AGAINST_THE_WALL if square == CORNER else 0)
-        self._screen.release_all()
-
-    def _poll(self, fits):
-        stage.poll(lambda: fits(self._screen.picture()), LONGEST_STEP)
-
-
-def turned(square):
-    return SQUARES[0] - 1 - square[0], SQUARES[1] - 1 - square[1]
-
-
-def square_has_changed(before, now, square):
-    """Whether a quarter of the square looks other than before. The arena fills the screen as far as its shape allows."""
-    side = min(now.width / SQUARES[0], now.height / SQUARES[1])
-    left = (now.width - side * SQUARES[0]) / 2 + side * square[0]
-    top = (now.height - side * SQUARES[1]) / 2 + side * square[1]
-    place = int(left), int(top), int(side), int(side)
-    return now.part(*place).differing_pixels(before.part(*place)) > side * side / 4
+    def _is_dead(self, player):
+        return self._round.silent_updates(player.number) > 5
 
 
 def run(program, arguments):
@@ -122,17 +147,14 @@ def run(program, arguments):
     print("There is no display here (neither DISPLAY nor WAYLAND_DISPLAY is set).")
     print("Playing a demonstration on a virtual screen instead, with a null sound sink and real key presses.")
     print(f"Pictures of it are written to {PICTURES}", flush=True)
-    begun = time.monotonic()
+    deadline = time.monotonic() + LAST_SECOND
     with stage.Stage() as the_stage:
         # A box that reports a failure would wait for somebody to answer it; its text stands on standard error as well.
         game = the_stage.start(program, arguments, environment={"GDK_BACKEND": "none"})
         album = Album(the_stage.screen)
-        if show_opening(the_stage.screen, game, album):
-            hands = Hands(the_stage.screen, album)
-            for step in SCRIPT:
-                if game.running() and time.monotonic() - begun < LAST_SECOND:
-                    hands.do(*step)
-            leave(the_stage.screen, game)
+        if show_splash(the_stage.screen, game, album):
+            Match(the_stage, game, album, deadline).play()
+        leave(the_stage.screen, game)
         album.write()
         if game.running():
             print("The game did not end when it was asked to.")
@@ -144,24 +166,14 @@ def run(program, arguments):
     return 0
 
 
-def show_opening(screen, game, album):
-    """The splash, and the wait for what follows it. False when the game has ended by itself."""
+def show_splash(screen, game, album):
+    """Waits for the splash. False when the game has ended by itself."""
     empty = screen.picture()
-    splash = first_change(screen, game, empty)
-    if splash is None:
-        return False
-    album.take("splash")
-    return first_change(screen, game, splash) is not None
-
-
-def first_change(screen, game, before):
-    """The next picture that is not `before`, once it is fully there; None when the game has ended."""
-    def changed():
-        return not game.running() or screen.picture().rows != before.rows
-
-    stage.wait_for(changed, "the game to show something", timeout=30)
+    stage.wait_for(lambda: not game.running() or screen.picture().rows != empty.rows, "the game to show something",
+                   timeout=30)
     time.sleep(0.3)
-    return screen.picture() if game.running() else None
+    album.take("splash")
+    return game.running()
 
 
 def leave(screen, game):
