@@ -3,8 +3,7 @@
 import unittest
 from collections import Counter
 
-import stage
-from game_test_case import FIRST_PLAYER, SECOND_PLAYER, SQUARES, ArenaTestCase, square_differs, square_of, turned
+from game_test_case import FIRST_PLAYER, SECOND_PLAYER, SQUARES, ArenaTestCase, square_differs, square_of, stage, turned
 
 # Both players start in opposite corners with two free squares each way, so what one does the other can do turned.
 PLAYERS = [
