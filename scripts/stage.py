@@ -103,6 +103,32 @@ class Picture:
                                + chunk(b"IDAT", zlib.compress(bytes(lines), 6)) + chunk(b"IEND", b""))
 
 
+class Keyboard:
+    """Keys of an X server, pressed as if by hand."""
+
+    def __init__(self, display_name):
+        self._x11 = ctypes.CDLL("libX11.so.6")
+        self._xtest = ctypes.CDLL("libXtst.so.6")
+        self._x11.XOpenDisplay.restype = ctypes.c_void_p
+        self._x11.XStringToKeysym.restype = ctypes.c_ulong
+        self._x11.XKeysymToKeycode.restype = ctypes.c_ubyte
+        self._display = ctypes.c_void_p(self._x11.XOpenDisplay(display_name.encode()))
+        if not self._display:
+            raise StageError(f"no connection to the screen {display_name}")
+
+    def send(self, key, down):
+        """Presses or lets go of the key of that X name."""
+        symbol = ctypes.c_ulong(self._x11.XStringToKeysym(key.encode()))
+        code = self._x11.XKeysymToKeycode(self._display, symbol)
+        if code == 0:
+            raise StageError(f"there is no key named {key}")
+        self._xtest.XTestFakeKeyEvent(self._display, ctypes.c_uint(code), ctypes.c_int(down), ctypes.c_ulong(0))
+        self._x11.XSync(self._display, 0)
+
+    def close(self):
+        self._x11.XCloseDisplay(self._display)
+
+
 class VirtualScreen:
     """An X server that draws into memory. There is no window manager, so the window under the pointer gets the keys."""
 
@@ -124,6 +150,7 @@ class VirtualScreen:
             raise StageError("the virtual screen did not start: " + (Path(folder) / "screen.txt").read_text())
         self.environment = {"DISPLAY": f":{number}"}
         self._held = []
+        self._keyboard = None
 
     @staticmethod
     def _line(reader, timeout=60.0):
@@ -138,6 +165,9 @@ class VirtualScreen:
         return text.decode().strip()
 
     def close(self):
+        if self._keyboard is not None:
+            self._keyboard.close()
+            self._keyboard = None
         end(self._process)
 
     def picture(self):
@@ -151,12 +181,12 @@ class VirtualScreen:
 
     def press(self, *keys):
         """Presses keys, by their X names, and leaves them down."""
-        self._keys("keydown", keys)
+        self._keys(True, keys)
         self._held.extend(keys)
 
     def release(self, *keys):
         """Lets go of keys."""
-        self._keys("keyup", keys)
+        self._keys(False, keys)
         self._held = [key for key in self._held if key not in keys]
 
     def hold(self, seconds, *keys):
@@ -198,8 +228,12 @@ class VirtualScreen:
 
         return wait_for(found, f"a window ({' '.join(search)})")
 
-    def _keys(self, action, keys):
-        self._xdotool(*(word for key in keys for word in (action, key)))
+    def _keys(self, down, keys):
+        """Goes to the X server directly: starting a program for each key takes longer than a player may hesitate."""
+        if self._keyboard is None:
+            self._keyboard = Keyboard(self.environment["DISPLAY"])
+        for key in keys:
+            self._keyboard.send(key, down)
 
     def _xdotool(self, *commands, check=True):
         return subprocess.run(["xdotool", *commands], env={**os.environ, **self.environment}, check=check,
