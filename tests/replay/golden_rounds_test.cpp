@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <string_view>
 
 #include "arena/arena.h"
 #include "match/options/name_tables.h"
@@ -30,6 +31,10 @@ struct Reached {
     std::set<int> rates;
     std::set<std::string> powerups;
     std::set<std::string> events;
+    std::set<std::string> snakeRounds;  // rounds with snakes of the computer
+    std::ptrdiff_t mostSnakes = 0;      // of the computer, alive at once
+    std::set<int> stylesClosed;         // the styles whose walls met
+    int longestWithReturns = 0;         // updates until a wall came back for the last time
 
     void look(const Game& game) {
         for (const auto& toast : game.toasts) {
@@ -42,8 +47,16 @@ struct Reached {
             note(toast->text == "Flag recovered", "flag recovered");
         }
         note(game.auction != nullptr, "auction");
-        note(!game.pendingWalls.empty(), "respawning wall");
-        note(game.shrinkState == ShrinkState::Finished, "walls closed");
+        if (!game.pendingWalls.empty()) {
+            events.emplace("respawning wall");
+            longestWithReturns = std::max<int>(longestWithReturns, frameCounter);
+        }
+        if (game.shrinkState == ShrinkState::Finished) {
+            stylesClosed.insert(gameOptions.shrinkStyleResolved.value());
+        }
+        mostSnakes = std::max(mostSnakes, std::count_if(players.begin(), players.end(), [](const auto& player) {
+                                  return player->isAI && !player->dead;
+                              }));
         for (const auto& player : players) {
             note(player->isSnake(), player->isAI ? "snake of the computer" : "human snake");
             note(player->crawling && player->reviveProgress > 0, "rescue");
@@ -60,6 +73,15 @@ struct Reached {
         }
     }
 };
+
+// The lines of the log in which somebody wins an auction: nothing else of a round says who paid.
+std::set<std::string> auctionWins;
+
+void listenForAuctions(const char* line, std::size_t length) {
+    if (std::string_view(line, length).ends_with(" wins auction\n")) {
+        auctionWins.emplace(line, length);
+    }
+}
 
 void playAll(const std::vector<std::string>& paths, Reached* reached) {
     for (const std::string& path : paths) {
@@ -87,19 +109,28 @@ void playAll(const std::vector<std::string>& paths, Reached* reached) {
             reached->note(playback.end() == PlaybackEnd::RoundOver, "round over");
             reached->note(playback.end() == PlaybackEnd::EndMark, "quit");
             reached->note(proof.captures > 0, "capture");
+            if (std::any_of(players.begin(), players.end(), [](const auto& player) { return player->isAI; })) {
+                reached->snakeRounds.insert(path);
+            }
         }
     }
 }
 
 TEST(GoldenRounds, holdInEitherOrderAndTogetherReachEverything) {
-    setDebugOutput(nullptr);
+    setDebugOutput(listenForAuctions);
     std::vector<std::string> paths = findReplays({goldenFolder});
     EXPECT_GE(paths.size(), 40U);
     Reached reached;
     playAll(paths, &reached);
     std::reverse(paths.begin(), paths.end());
     playAll(paths, nullptr);
+    setDebugOutput(nullptr);
 
+    EXPECT_GE(reached.snakeRounds.size(), 12U);
+    EXPECT_EQ(reached.mostSnakes, 30);
+    EXPECT_EQ(reached.stylesClosed, (std::set<int>{1, 2, 3}));
+    EXPECT_GT(reached.longestWithReturns, 20'000);
+    EXPECT_GE(auctionWins.size(), 3U) << "different people";
     EXPECT_EQ(reached.modes.size(), gameModeNames.size());
     for (std::size_t i = 1; i < arenaSizes.size(); ++i) {
         EXPECT_TRUE(reached.arenas.contains({arenaSizes[i].width, arenaSizes[i].height})) << arenaSizes[i].name;
@@ -111,9 +142,8 @@ TEST(GoldenRounds, holdInEitherOrderAndTogetherReachEverything) {
             EXPECT_TRUE(reached.powerups.contains(std::string(bonus.displayName))) << bonus.displayName;
         }
     }
-    for (const char* event :
-         {"auction", "bid", "respawning wall", "walls closed", "snake of the computer", "human snake", "major stun",
-          "rescue", "flag carried", "flag recovered", "capture", "round over", "quit"}) {
+    for (const char* event : {"auction", "bid", "respawning wall", "snake of the computer", "human snake", "major stun",
+                              "rescue", "flag carried", "flag recovered", "capture", "round over", "quit"}) {
         EXPECT_TRUE(reached.events.contains(event)) << event;
     }
 }
