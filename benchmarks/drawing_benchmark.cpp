@@ -23,6 +23,7 @@
 #include "players/sprites_drawing.h"
 #include "presentation/bitmaps.h"
 #include "presentation/drawing.h"
+#include "presentation/plain_shader.h"
 #include "presentation/recolour_shader.h"
 #include "presentation/text.h"
 #include "shell/frame_counter.h"
@@ -85,6 +86,7 @@ void startDisplay() {
     loadBitmaps();
     loadFonts();
     createRecolourShader();
+    createPlainShader();
 }
 
 // A Deathmatch on an arena of the size table, in full swing.

@@ -3,6 +3,7 @@
 #include <allegro5/allegro_primitives.h>
 
 #include "presentation/bitmaps.h"
+#include "presentation/plain_shader.h"
 #include "presentation/recolour_shader.h"
 
 namespace vandrel {
@@ -58,6 +59,22 @@ float real(int value) {
     return static_cast<float>(value);
 }
 
+// The plain shader belongs to the bitmap that is drawn to, so it comes off before the target changes and goes on behind
+// it; the recolour shader, while it is on, stays.
+void beginCollecting() {
+    if (!shaderActive) {
+        startPlainDrawing();
+    }
+    al_hold_bitmap_drawing(true);
+}
+
+void endCollecting() {
+    al_hold_bitmap_drawing(false);
+    if (!shaderActive) {
+        stopPlainDrawing();
+    }
+}
+
 }  // namespace
 
 void setTarget(const BitmapWrapper& target) {
@@ -75,24 +92,26 @@ void forgetTarget() {
 
 DrawingBatch::DrawingBatch(const BitmapWrapper& target) : wasHeld_(al_is_bitmap_drawing_held()) {
     setTarget(target);
-    al_hold_bitmap_drawing(true);
+    if (!wasHeld_) {
+        beginCollecting();
+    }
 }
 
 DrawingBatch::~DrawingBatch() {
     if (!wasHeld_) {
-        al_hold_bitmap_drawing(false);
+        endCollecting();
     }
 }
 
 BatchPause::BatchPause() : paused_(al_is_bitmap_drawing_held()) {
     if (paused_) {
-        al_hold_bitmap_drawing(false);
+        endCollecting();
     }
 }
 
 BatchPause::~BatchPause() {
     if (paused_) {
-        al_hold_bitmap_drawing(true);
+        beginCollecting();
     }
 }
 

@@ -2,10 +2,8 @@
 
 #include <allegro5/allegro_opengl.h>
 
-#include <stdexcept>
-#include <string>
-
 #include "presentation/drawing.h"
+#include "presentation/shader_building.h"
 
 namespace vandrel {
 
@@ -19,16 +17,6 @@ ALLEGRO_SHADER* shader = nullptr;
 int toldWidth = 0;
 int toldHeight = 0;
 
-// The language differs from platform to platform; this is the one place that says which sources are used.
-constexpr const char* vertexSource = "shaders/vertex.glsl";
-constexpr const char* pixelSource = "shaders/pixel_recolour.glsl";
-
-[[noreturn]] void failWith(const std::string& text) {
-    const std::string log = al_get_shader_log(shader);
-    destroyRecolourShader();
-    throw std::runtime_error(text + log);
-}
-
 // A compiler may drop a uniform that has no effect, and setting it then fails: that is no error.
 void setColour(const char* uniform, const ALLEGRO_COLOR& colour) {
     const float channels[4] = {colour.r, colour.g, colour.b, 1.0f};
@@ -38,17 +26,7 @@ void setColour(const char* uniform, const ALLEGRO_COLOR& colour) {
 }  // namespace
 
 void createRecolourShader() {
-    shader = al_create_shader(ALLEGRO_SHADER_AUTO);
-    if (shader == nullptr) {
-        throw std::runtime_error("Could not create shader");
-    }
-    if (!al_attach_shader_source_file(shader, ALLEGRO_VERTEX_SHADER, vertexSource) ||
-        !al_attach_shader_source_file(shader, ALLEGRO_PIXEL_SHADER, pixelSource)) {
-        failWith("al_attach_shader_source_file failed: ");
-    }
-    if (!al_build_shader(shader)) {
-        failWith("al_build_shader failed: ");
-    }
+    shader = buildShader("shaders/pixel_recolour.glsl");
 }
 
 void destroyRecolourShader() {

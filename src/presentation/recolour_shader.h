@@ -17,8 +17,7 @@ struct RecolourSettings {
     bool doDarkCol = false;                   // darker greys than `baseCol` become darker shades
 };
 
-// Needs a display. Throws std::runtime_error "Could not create shader", "al_attach_shader_source_file failed: LOG" or
-// "al_build_shader failed: LOG".
+// Needs a display. Throws as `buildShader` does.
 void createRecolourShader();
 // Does nothing when there is none. To be called before the display that it was made for goes.
 void destroyRecolourShader();

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "presentation/drawing.h"
+#include "presentation/plain_shader.h"
 #include "presentation/recolour_shader.h"
 #include "presentation/text.h"
 #include "shell/log.h"
@@ -63,12 +64,14 @@ void resizeDisplay(int width, int height, bool windowed) {
 void moveToAdapter(int width, int height, int adapter) {
     logText("Destroying shaders\n");
     destroyRecolourShader();
+    destroyPlainShader();
     al_unregister_event_source(eventQueue, al_get_display_event_source(theDisplay));
     al_unregister_event_source(eventQueue, al_get_keyboard_event_source());
     logText(fmt::format("Switch to adapter {}\n", adapter));
     al_destroy_display(theDisplay);
     createDisplay(width, height, adapter);
     createRecolourShader();
+    createPlainShader();
     loadFonts();
 }
 

@@ -44,8 +44,11 @@ void presentFrame() {
         // What the back buffer holds after a flip is undefined, so the borders are drawn each time.
         clearToBlack(*displayBitmap);
     }
-    drawScaled(*displayBitmap, screen->bitmap, 0, 0, gameScreenWidth, gameScreenHeight, picture.x, picture.y,
-               picture.width, picture.height);
+    {
+        const DrawingBatch batch(*displayBitmap);
+        drawScaled(*displayBitmap, screen->bitmap, 0, 0, gameScreenWidth, gameScreenHeight, picture.x, picture.y,
+                   picture.width, picture.height);
+    }
     al_flip_display();
 }
 

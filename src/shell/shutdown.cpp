@@ -1,6 +1,7 @@
 #include "shell/shutdown.h"
 
 #include "presentation/bitmaps.h"
+#include "presentation/plain_shader.h"
 #include "presentation/recolour_shader.h"
 #include "presentation/sound.h"
 #include "shell/game_screen.h"
@@ -13,6 +14,7 @@ void shutDown() {
     shutdownSound();
     logText("Destroying shaders\n");
     destroyRecolourShader();
+    destroyPlainShader();
     logText("Destroying bitmaps\n");
     releaseBitmapCaches();
     screen.reset();

@@ -19,6 +19,7 @@
 #include "match/options/game_options.h"
 #include "presentation/bitmaps.h"
 #include "presentation/drawing.h"
+#include "presentation/plain_shader.h"
 #include "presentation/recolour_shader.h"
 #include "presentation/sound.h"
 #include "presentation/text.h"
@@ -133,6 +134,7 @@ void bringUpDisplay(const StartSettings& settings) {
 void loadAssets() {
     loadBitmaps();
     createRecolourShader();
+    createPlainShader();
     al_init_font_addon();
     al_init_ttf_addon();
     loadFonts();

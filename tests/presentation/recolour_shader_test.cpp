@@ -10,8 +10,10 @@
 #include <string>
 
 #include "players/sprites_drawing.h"
+#include "presentation/atlas.h"
 #include "presentation/bitmaps.h"
 #include "presentation/drawing.h"
+#include "presentation/plain_shader.h"
 #include "shell/accessibility.h"
 #include "support/drawing_stage.h"
 
@@ -23,9 +25,13 @@ constexpr RGB ink{28, 20, 36};
 
 class RecolourOnDisplay : public DrawingOnDisplay {
   protected:
-    RecolourOnDisplay() { createRecolourShader(); }
+    RecolourOnDisplay() {
+        createRecolourShader();
+        createPlainShader();
+    }
     ~RecolourOnDisplay() override {
         destroyRecolourShader();
+        destroyPlainShader();
         releaseSpriteCache();
         accessibility = AccessibilitySettings();
     }
@@ -136,6 +142,45 @@ TEST_F(RecolourOnDisplay, BatchesKeepShadedAndPlainDrawsApart) {
     EXPECT_EQ(pixelAt(canvas, 80, 16), (RGB{0, 0, 0}));
 }
 
+// Mirrored, faded, tinted and turned images, primitives between them, and a picture composed on the way.
+void paintAllKinds(const BitmapWrapper& canvas, bool batched) {
+    clearTo(canvas, toColour({10, 60, 110}));
+    const auto batch = batched ? std::make_unique<DrawingBatch>(canvas) : nullptr;
+    for (int i = 0; i < 4; ++i) {
+        drawId(canvas, BitmapIds::Bomb1, 20 * i, 0, i % 2);
+        drawFilledRectangle(canvas, 20 * i + 5, 10, 20 * i + 12, 50, toColour({200, 0, 40}));
+        drawBitmap(canvas, getBitmap(BitmapIds::Bomb1), 20 * i, 30, 0, 40 + 60 * i);
+        drawTinted(canvas, getBitmap(BitmapIds::Bomb1), 20 * i + 3, 60, 250, 130, 60 * i, 200);
+        drawEllipse(canvas, 20 * i + 10, 60, 9, 4, toColour({255, 255, 0}));
+        drawRotatedId(canvas, BitmapIds::Bomb1, 16, 16, 20 * i + 10, 70, 30.0f * static_cast<float>(i), 0.7f, 255);
+        const auto composed = composePicture(8, 8, [i](const BitmapWrapper& made) {
+            clearTo(made, toColour({0, static_cast<std::uint8_t>(80 * i), 255}));
+        });
+        drawWrapper(*composed, canvas, 20 * i, 85);
+        putPixel(canvas, 20 * i, 99, toColour({1, 2, 3}));
+    }
+}
+
+TEST_F(RecolourOnDisplay, ABatchPaintsWhatSingleDrawsPaint) {
+    writeImage("images/Bomb1.png", 32, 32, [](int x, int y) {
+        const auto byte = [](int value) { return static_cast<std::uint8_t>(value % 256); };
+        return (x + y) % 5 == 0 ? clearPixel : toColour({byte(x * 8), byte(y * 8), byte(x * y)});
+    });
+    loadBitmaps(bitmapIndex(BitmapIds::Bomb1));
+    const BitmapWrapper single(100, 100, true);
+    const BitmapWrapper batched(100, 100, true);
+    paintAllKinds(single, false);
+    paintAllKinds(batched, true);
+    int different = 0;
+    for (int y = 0; y < 100; ++y) {
+        for (int x = 0; x < 100; ++x) {
+            different += pixelAt(single, x, y) != pixelAt(batched, x, y) ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(different, 0);
+    EXPECT_EQ(pixelAt(batched, 8, 25), (RGB{200, 0, 40})) << "primitives have no texture";
+}
+
 class SpritesOnDisplay : public RecolourOnDisplay {
   protected:
     SpritesOnDisplay() {
@@ -219,6 +264,9 @@ TEST_F(ShaderFailureOnDisplay, SaysWhatIsMissingOrBroken) {
     EXPECT_NE(failure().find(" failed: "), std::string::npos);
     EXPECT_GT(failure().size(), std::string("al_attach_shader_source_file failed: ").size())
         << "with the compiler's log";
+
+    std::ofstream("shaders/pixel_recolour.glsl") << "varying vec4 missing; void main() { gl_FragColor = missing; }";
+    EXPECT_EQ(failure().rfind("al_build_shader failed: ", 0), 0U) << failure();
 }
 
 }  // namespace
