@@ -77,6 +77,17 @@ TEST(SnakeForm, StandsStillOnTheLineBeforeWhatBlocksItUntilItIsTurned) {
     }
 }
 
+TEST(SnakeForm, BetweenTheLinesABodyAheadDoesNotStopIt) {
+    TestRound round;
+    const auto snake = round.addSnake({5, 5}, Facing::Right, 4);
+    snake->x += 5;
+    const auto other = round.addSnake({6, 8}, Facing::Up, 2);
+    other->stopTimer = 1000;
+    other->snakeParts.assign(2, {6 * 32, 5 * 32, Facing::Up});
+    round.step();
+    EXPECT_EQ(snake->position(), (Pixel{168, 160}));
+}
+
 TEST(SnakeForm, AHeadThatAWallSurprisesBetweenTheLinesGoesBackToItsSquare) {
     TestRound round;
     const auto snake = round.addSnake({5, 5}, Facing::Right, 4);
