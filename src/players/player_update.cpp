@@ -65,7 +65,9 @@ void Player::update(const PackagedReplayData& replayData, Game* currentGame, boo
     if (needRecord) {
         recordInput(replayData, {});
     }
-    if (verifyEnabled && (!dead || replayData.isOlderThan(deadHaveLinesBelow))) {
+    // In the update that meets the end mark somebody may still come back, of which no line was written.
+    const bool beyondRecords = game != nullptr && game->endMarkSeen;
+    if (verifyEnabled && !beyondRecords && (!dead || replayData.isOlderThan(deadHaveLinesBelow))) {
         verifyPosition(replayData);
     }
 }
