@@ -1,5 +1,5 @@
-// The shader under which batches of bitmaps are drawn. The platform's own serves every kind of drawing and asks for each
-// pixel which one it is; this one only lays a texture, which counts where no graphics card helps.
+// The shader under which batches of bitmaps are drawn. The platform's own serves every kind of drawing and asks for
+// each pixel which one it is; this one only lays a texture, which counts where no graphics card helps.
 #pragma once
 
 namespace vandrel {
