@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <memory>
+#include <stdexcept>
 #include <vector>
 
 #include "base/random.h"
@@ -57,7 +58,9 @@ void bringUpPlatform() {
     logText("SteamListener init\n");
     createSteamListener();
     logText("Allegro init\n");
-    al_install_system(ALLEGRO_VERSION_INT, std::atexit);
+    if (!al_install_system(ALLEGRO_VERSION_INT, std::atexit)) {
+        throw std::runtime_error("al_install_system failed");
+    }
     logText("Registering trace handler\n");
     al_register_trace_handler(logTrace);
     al_init_image_addon();
