@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <ios>
 #include <istream>
-#include <limits>
+#include <vector>
 
 #include "arena/game.h"
 #include "base/version.h"
@@ -22,13 +22,12 @@ constexpr int spawnSamples = 150;
 constexpr int oldSpawnSamples = 50;
 constexpr float safeDistance = 3.0f;  // squares from a closing wall, a flame or a bomb
 constexpr int announcementFrames = 1000;
-constexpr Vector2Base<float> announcementVelocity{0.0f, -1.0f};
 constexpr int chosenSquaresFrom = replayVersion(0, 95, 18);
 constexpr int recordedSpeedsFrom = replayVersion(0, 95, 23);
 constexpr int safeSquaresFrom = replayVersion(0, 96, 8);
 constexpr int manySamplesFrom = replayVersion(0, 96, 9);
 
-float spawnScore(const Game& game, Square square) {
+float spawnScore(const Game& game, Square square, const std::vector<Square>& living) {
     if (game.isSquareBlocked(square, Blocked::SolidOrSnake) || game.isPlayerOnSquare(square.x, square.y, nullptr)) {
         return 0.0f;
     }
@@ -37,23 +36,12 @@ float spawnScore(const Game& game, Square square) {
          game.isBombNear(square, safeDistance))) {
         return 0.0f;
     }
-    float least = std::numeric_limits<float>::max();
-    for (const auto& player : players) {
-        if (!player->dead) {
-            const Square other = player->square();
-            const auto dx = static_cast<float>(square.x - other.x);
-            const auto dy = static_cast<float>(square.y - other.y);
-            least = std::min(least, dx * dx + dy * dy);
-        }
-    }
-    return least;
+    return leastSquaredDistance(square, living);
 }
 
-void announce(Game& game) {
+void announceSnakesLeft(Game& game) {
     const std::string text = fmt::format("{} snake{} remaining!", game.aiSnakesLeft, game.aiSnakesLeft == 1 ? "" : "s");
-    const Pixel middle{arenaWidthPixels() / 2, arenaHeightPixels() / 2};
-    const Vector2Base<float> centre{static_cast<float>(middle.x), static_cast<float>(middle.y)};
-    game.addToast(std::make_unique<TimedToast>(text, centre, announcementVelocity, announcementFrames, FontId::Font30));
+    game.announce(text, {arenaWidthPixels() / 2, arenaHeightPixels() / 2}, announcementFrames);
 }
 
 void readSpeed(Game& game, Player& snake, bool& replayEnded) {
@@ -79,8 +67,9 @@ void readSpeed(Game& game, Player& snake, bool& replayEnded) {
 
 std::optional<Square> Game::getAISnakeSpawnPos() {
     const int samples = replay.isOlderThan(manySamplesFrom) ? oldSpawnSamples : spawnSamples;
+    const std::vector<Square> living = squaresOfTheLiving();
     return sampleBestSquare(
-        {1, 1}, {grid_squares_x - 2, grid_squares_y - 2}, [this](Square square) { return spawnScore(*this, square); },
+        firstInnerSquare(), lastInnerSquare(), [&](Square square) { return spawnScore(*this, square, living); },
         samples);
 }
 
@@ -110,7 +99,7 @@ void Game::updateAISnakes(bool& replayEnded) {
     if (gameOptions.gameMode != GameMode::Everything) {
         teams.at(1).members.push_back(snake);
     }
-    announce(*this);
+    announceSnakesLeft(*this);
     if (replay.playback) {
         readSpeed(*this, *snake, replayEnded);
     } else if (replay.writes()) {

@@ -39,6 +39,10 @@ constexpr Square squareAtPixel(Pixel pixel) {
 constexpr Pixel squareToPixel(Square square) {
     return {square.x * squareSize, square.y * squareSize};
 }
+// The pixel in the middle of the square.
+constexpr Pixel centreOf(Square square) {
+    return {square.x * squareSize + halfSquare, square.y * squareSize + halfSquare};
+}
 
 // The foremost pixel of a sprite at `position` that looks to `facing`.
 constexpr Pixel leadingPixel(Pixel position, Facing facing) {
@@ -67,6 +71,13 @@ inline bool isInsideGrid(Square square) {
 inline bool isInnerSquare(Square square) {
     return square.x > 0 && square.x < grid_squares_x - 1 && square.y > 0 && square.y < grid_squares_y - 1;
 }
+// The corners of the arena inside its outer ring.
+inline Square firstInnerSquare() {
+    return {1, 1};
+}
+inline Square lastInnerSquare() {
+    return {grid_squares_x - 2, grid_squares_y - 2};
+}
 inline Square middleSquare() {
     return {grid_squares_x / 2, grid_squares_y / 2};
 }
@@ -77,6 +88,11 @@ extern void (*onArenaResized)(int width, int height);
 
 // Empties the layers and gives them this size in squares.
 void resizeArena(Square size);
+
+// Whether a pillar or an edge wall stands on the square.
+inline bool isSolid(Square square) {
+    return isIndestructible(squareGrid.at(square));
+}
 
 // Whether a live bomb lies on the square.
 inline bool hasBomb(Square square) {

@@ -22,7 +22,6 @@ namespace {
 
 constexpr int auctionFrames = 540;
 constexpr int bombsAndRangesInLot = 3;
-constexpr Vector2Base<float> announcementVelocity{0.0f, -1.0f};
 
 bool mayBid(const Player& player) {
     return player.canUsePowerups() && player.cash > 0;
@@ -47,26 +46,19 @@ int drawLot(const PackagedReplayData& replay) {
     return bonus;
 }
 
-void announce(Game& game, const Auction& auction) {
+void announceLot(Game& game, const Auction& auction) {
     const int quantity = game.auctionQuantity(auction.bonus);
     std::string text = fmt::format("Auction: {}", checkedAt(bonusNames, auction.bonus).displayName);
     if (quantity > 1) {
         text += fmt::format(" x{}", quantity);
     }
-    const int middle = arenaWidthPixels() / 2;
-    const Vector2Base<float> bottomCentre{static_cast<float>(middle), static_cast<float>(arenaHeightPixels())};
-    game.addToast(
-        std::make_unique<TimedToast>(text, bottomCentre, announcementVelocity, auction.timer, FontId::Font30));
+    game.announce(text, {arenaWidthPixels() / 2, arenaHeightPixels()}, auction.timer);
 }
 
 void showBidButtons(Game& game) {
     for (const auto& player : players) {
         if (mayBid(*player)) {
-            const Pixel centre = player->centre();
-            game.addToast(std::make_unique<TimedToast>(
-                fmt::format("Bid: {}", player->controls->buttonText(ControlInput::Button2)),
-                Vector2Base<float>{static_cast<float>(centre.x), static_cast<float>(centre.y)}, playerToastVelocity,
-                playerToastFrames, FontId::Builtin));
+            game.tell(fmt::format("Bid: {}", player->controls->buttonText(ControlInput::Button2)), player->centre());
         }
     }
 }
@@ -91,7 +83,7 @@ void Game::openAuction() {
     auction = std::make_unique<Auction>();
     auction->bonus = bonus;
     auction->timer = scaledFrames(auctionFrames);
-    announce(*this, *auction);
+    announceLot(*this, *auction);
     if (!replay.playback) {
         showBidButtons(*this);
     }

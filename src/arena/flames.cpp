@@ -6,6 +6,7 @@
 #include "arena/game.h"
 #include "base/version.h"
 #include "match/options/game_options.h"
+#include "players/bomb_timing.h"
 #include "players/player.h"
 
 namespace vandrel {
@@ -13,7 +14,6 @@ namespace vandrel {
 namespace {
 
 constexpr int flameStepFrames = 4;
-constexpr int detonationFrames = 3;  // the fuse of a bomb that a flame has reached
 constexpr int stepsPastAnyRange = 999;
 constexpr int splitTrainsFrom = replayVersion(0, 95, 28);
 constexpr int lingeringTailsFrom = replayVersion(0, 95, 26);
@@ -130,7 +130,7 @@ void FlamePass::meetWall(Explosion& explosion, const Player& owner) {
 
 void FlamePass::meetBomb(Explosion& explosion, Square square) {
     Bomb& bomb = bombGrid.edit(square);
-    bomb.fuse = scaledFrames(detonationFrames);
+    bomb.fuse = scaledFrames(detonationFuse);
     bomb.kind = BombKind::Ticking;
     bomb.owner.lock()->remoteActive = false;
     explosion.owner.reset();

@@ -15,6 +15,13 @@ namespace {
 
 Game* currentGame = nullptr;
 constexpr int wallAppearStyles = 5;
+constexpr int toldFrames = 90;  // not scaled by the rate
+constexpr Vector2Base<float> toldVelocity{0.0f, -0.5f};
+constexpr Vector2Base<float> announcedVelocity{0.0f, -1.0f};
+
+Vector2Base<float> inFloat(Pixel pixel) {
+    return {static_cast<float>(pixel.x), static_cast<float>(pixel.y)};
+}
 
 }  // namespace
 
@@ -42,10 +49,17 @@ void Game::addToast(std::unique_ptr<Toast> toast) {
     toasts.push_back(std::move(toast));
 }
 
+void Game::tell(const std::string& text, Pixel from) {
+    addToast(std::make_unique<TimedToast>(text, inFloat(from), toldVelocity, toldFrames, FontId::Builtin));
+}
+
+void Game::announce(const std::string& text, Pixel from, int frames) {
+    addToast(std::make_unique<TimedToast>(text, inFloat(from), announcedVelocity, frames, FontId::Font30));
+}
+
 void Game::addScoreToast(int points, const Player& player, Team& team) {
-    const Vector2Base<float> start{static_cast<float>(player.x) + 16.0f, static_cast<float>(player.y) + 16.0f};
-    const Pixel base = squareToPixel(team.base());
-    const Vector2Base<float> target{static_cast<float>(base.x + halfSquare), static_cast<float>(base.y + halfSquare)};
+    const Vector2Base<float> start = inFloat(player.centre());
+    const Vector2Base<float> target = inFloat(centreOf(team.base()));
     const auto frames = static_cast<float>(scoreToastFrames);
     const Vector2Base<float> velocity{(target.x - start.x) / frames, (target.y - start.y) / frames};
     addToast(std::make_unique<DisplayScoreToast>(points, &team, start, velocity, scoreToastFrames, FontId::Builtin));

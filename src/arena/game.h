@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <random>
+#include <string>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -129,6 +130,10 @@ class Game {
 
     // Commands.
     void addToast(std::unique_ptr<Toast> toast);
+    // A small text that rises from this pixel for a second and a half: what happened to a player or a flag.
+    void tell(const std::string& text, Pixel from);
+    // A large text for everybody, which rises twice as fast for this many updates.
+    void announce(const std::string& text, Pixel from, int frames);
     // The points fly from the player's centre to the base of the team, within `scoreToastFrames` updates.
     void addScoreToast(int points, const Player& player, Team& team);
     // A bomb's flames: three layers in each direction, diagonals with `ultraBomb`.
@@ -197,7 +202,7 @@ class Game {
     void openAuction();
     void closeAuction();
     void updatePendingWalls();
-    bool standWall(const PendingWall& wall);
+    void standWall(const PendingWall& wall);
     bool wantsMoreWalls();
     std::optional<Square> chooseWallSquare();
     void layShrinkWalls();

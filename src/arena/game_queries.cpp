@@ -2,18 +2,13 @@
 #include <algorithm>
 
 #include "arena/game.h"
+#include "base/distance.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
 
 namespace vandrel {
 
 namespace {
-
-float squaredDistance(Square a, Square b) {
-    const auto dx = static_cast<float>(a.x - b.x);
-    const auto dy = static_cast<float>(a.y - b.y);
-    return dx * dx + dy * dy;
-}
 
 bool isSnakeHeadOn(Square square, const Player* ignoredPlayer, std::shared_ptr<Player>* foundPlayer) {
     for (const auto& player : players) {
@@ -28,12 +23,8 @@ bool isSnakeHeadOn(Square square, const Player* ignoredPlayer, std::shared_ptr<P
 }
 
 bool isSnakeBodyOn(Square square) {
-    return std::any_of(players.begin(), players.end(), [&](const auto& player) {
-        return player->isSnake() && !player->dead &&
-               std::any_of(player->snakeParts.begin(), player->snakeParts.end(), [&](const SnakePart& part) {
-                   return squareUnder({std::get<0>(part), std::get<1>(part)}) == square;
-               });
-    });
+    return std::any_of(players.begin(), players.end(),
+                       [&](const auto& player) { return !player->dead && player->hasBodyOn(square); });
 }
 
 }  // namespace

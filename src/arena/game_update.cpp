@@ -16,7 +16,6 @@ namespace vandrel {
 
 namespace {
 
-
 constexpr int roundEndFrames = 240;
 constexpr float roundEndFadeSeconds = 4.0f;
 constexpr int crawlingTeamsFrom = replayVersion(0, 95, 2);

@@ -95,8 +95,7 @@ void Game::updateFlags() {
             continue;
         }
         const Square square = squareUnder(flag.position());
-        const bool buried = isIndestructible(squareGrid.at(square));
-        const Pixel target = squareToPixel(buried ? flagHome(flag) : square);
+        const Pixel target = squareToPixel(isSolid(square) ? flagHome(flag) : square);
         flag.x = approach(flag.x, target.x, 1);
         flag.y = approach(flag.y, target.y, 1);
     }

@@ -2,7 +2,7 @@
 // the rest.
 #include <algorithm>
 #include <array>
-#include <cstdlib>
+#include <iterator>
 #include <set>
 #include <stdexcept>
 #include <vector>
@@ -32,7 +32,7 @@ class Placement {
     void placeTeamsAroundBases();
     void placeTeamAtBase(std::size_t team);
     void placeBattleRoyale();
-    void placeRoyaleTeam(std::size_t team, std::vector<Square>& teamStarts);
+    void placeRoyaleTeam(std::size_t team, const std::vector<Square>& teamStarts);
     Square squareBeside(Square teamStart) const;
     void placeByList();
     void fill();
@@ -50,8 +50,8 @@ class Placement {
     const int gy_ = grid_squares_y;
     const int cx_ = grid_squares_x / 2;
     const int cy_ = grid_squares_y / 2;
-    const Square low_{1, 1};
-    const Square high_{grid_squares_x - 2, grid_squares_y - 2};
+    const Square low_ = firstInnerSquare();
+    const Square high_ = lastInnerSquare();
     const std::size_t playerCount_ = static_cast<std::size_t>(gameOptions.numPlayers);
     std::vector<Square> result_;  // (0, 0) is a slot not yet filled
     std::set<Square, SquareLess> used_;
@@ -69,19 +69,12 @@ std::vector<std::size_t> Placement::memberIndices(std::size_t team) {
 }
 
 Square Placement::farthest() const {
-    const auto filled = std::min(playerCount_, result_.size());
-    const auto score = [&](Square square) {
-        float least = farFromNobody;
-        for (std::size_t i = 0; i < filled; ++i) {
-            if (result_[i] != Square{}) {
-                const auto dx = static_cast<float>(square.x - result_[i].x);
-                const auto dy = static_cast<float>(square.y - result_[i].y);
-                least = std::min(least, dx * dx + dy * dy);
-            }
-        }
-        return least;
-    };
-    const auto best = findBestSquare(low_, high_, score);
+    const auto slots = static_cast<std::ptrdiff_t>(std::min(playerCount_, result_.size()));
+    std::vector<Square> filled;
+    std::copy_if(result_.begin(), result_.begin() + slots, std::back_inserter(filled),
+                 [](Square square) { return square != Square{}; });
+    const auto best =
+        findBestSquare(low_, high_, [&](Square square) { return leastSquaredDistance(square, filled, farFromNobody); });
     if (!best.has_value()) {
         throw std::runtime_error("Not enough space for players");
     }
@@ -167,25 +160,23 @@ constexpr std::array<Square, 36> royaleOffsets{
 
 void Placement::placeBattleRoyale() {
     result_.resize(playerCount_);
-    std::vector<Square> teamStarts{low_,     high_,          {1, gy_ - 2}, {gx_ - 2, 1},
-                                   {cx_, 1}, {cx_, gy_ - 2}, {1, cy_},     {gx_ - 2, cy_}};
+    const std::vector<Square> teamStarts{low_,     high_,          {1, gy_ - 2}, {gx_ - 2, 1},
+                                         {cx_, 1}, {cx_, gy_ - 2}, {1, cy_},     {gx_ - 2, cy_}};
     for (std::size_t team = 0; team < teams.size(); ++team) {
         placeRoyaleTeam(team, teamStarts);
     }
 }
 
-void Placement::placeRoyaleTeam(std::size_t team, std::vector<Square>& teamStarts) {
-    bool first = true;
-    for (const std::size_t player : memberIndices(team)) {
-        if (!first) {
-            take(player, squareBeside(teamStarts[team]));
-            continue;
-        }
-        if (team >= teamStarts.size()) {
-            teamStarts.push_back(farthest());
-        }
-        take(player, checkedAt(teamStarts, static_cast<std::ptrdiff_t>(team)));
-        first = false;
+// The teams behind the list of starts begin far from everybody.
+void Placement::placeRoyaleTeam(std::size_t team, const std::vector<Square>& teamStarts) {
+    const std::vector<std::size_t> members = memberIndices(team);
+    if (members.empty()) {
+        return;
+    }
+    const Square start = team < teamStarts.size() ? teamStarts[team] : farthest();
+    take(members.front(), start);
+    for (std::size_t i = 1; i < members.size(); ++i) {
+        take(members[i], squareBeside(start));
     }
 }
 

@@ -5,22 +5,13 @@
 #include "arena/game.h"
 #include "base/version.h"
 #include "players/player.h"
+#include "players/version_gates.h"
 
 namespace vandrel {
 
 namespace {
 
 constexpr int collidingHeadsFrom = replayVersion(0, 95, 12);
-constexpr int crushingWallsFrom = replayVersion(1, 0, 10);
-
-Square squareOfPart(const SnakePart& part) {
-    return squareUnder({std::get<0>(part), std::get<1>(part)});
-}
-
-bool bodyIsOn(const Player& player, Square square) {
-    return player.isSnake() && std::any_of(player.snakeParts.begin(), player.snakeParts.end(),
-                                           [&](const SnakePart& part) { return squareOfPart(part) == square; });
-}
 
 }  // namespace
 
@@ -41,7 +32,7 @@ void Game::checkFlames(Player& player) {
     const bool touched =
         isBurning(centre) ||
         (player.isSnake() && std::any_of(player.snakeParts.begin(), player.snakeParts.end(),
-                                         [&](const SnakePart& part) { return isBurning(squareOfPart(part)); }));
+                                         [&](const SnakePart& part) { return isBurning(squareOf(part)); }));
     if (!touched) {
         return;
     }
@@ -55,7 +46,7 @@ void Game::checkFlames(Player& player) {
             player.hurt(DeathReason::Explosion, replay, owner);
             return;
         }
-        if (bodyIsOn(player, {explosion.x, explosion.y})) {
+        if (player.hasBodyOn({explosion.x, explosion.y})) {
             player.hurt(DeathReason::SnakeBodyHitByExplosion, replay, owner);
             return;
         }
@@ -64,11 +55,11 @@ void Game::checkFlames(Player& player) {
 
 bool Game::isBodyInWall(const Player& player) const {
     std::size_t end = player.snakeParts.size();
-    if (!replay.isOlderThan(crushingWallsFrom)) {
+    if (!replay.isOlderThan(snakesCrushedFrom)) {
         end = std::min(end, static_cast<std::size_t>(player.snakeLengthNow()));
     }
     for (std::size_t i = 1; i < end; ++i) {
-        const int kind = squareGrid.at(squareOfPart(player.snakeParts[i]));
+        const int kind = squareGrid.at(squareOf(player.snakeParts[i]));
         if (kind >= SquareKind::GridBlock && kind <= SquareKind::HardWallHitTwice) {
             return true;
         }

@@ -2,7 +2,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <limits>
 #include <vector>
 
 #include "arena/bonus.h"
@@ -51,16 +50,6 @@ bool columnHoldsEdge(int x, int y) {
     return false;
 }
 
-float leastSquaredDistance(Square square, const std::vector<Square>& taken) {
-    float least = std::numeric_limits<float>::max();
-    for (const Square other : taken) {
-        const auto dx = static_cast<float>(square.x - other.x);
-        const auto dy = static_cast<float>(square.y - other.y);
-        least = std::min(least, dx * dx + dy * dy);
-    }
-    return least;
-}
-
 // High far from players and away from edge walls.
 float wallScore(const Game& game, Square square, const std::vector<Square>& living) {
     const bool pending = std::any_of(game.pendingWalls.begin(), game.pendingWalls.end(), [&](const PendingWall& wall) {
@@ -85,19 +74,19 @@ bool canRespawnWallAt(const Game& game, Square square) {
            bonusGrid.at(square) == 0;
 }
 
-// False where the records have ended and none is left for this wall.
-bool Game::standWall(const PendingWall& wall) {
+// Where the records have ended none is left for this wall, and it does not stand.
+void Game::standWall(const PendingWall& wall) {
     const Square square{wall.x, wall.y};
     if (replay.playback) {
         if (endMarkSeen) {
-            return false;
+            return;
         }
         const char c = static_cast<char>(readByte(replay.input));
         VANDREL_CHECK(c == 'B', "c == 'B'");
         const int bonus = readSignedByte(replay.input);
         squareGrid.set(square, SquareKind::Wall);
         bonusGrid.at(square) = bonus;
-        return true;
+        return;
     }
     squareGrid.set(square, SquareKind::Wall);
     const int bonus = chooseBonus(false);
@@ -106,7 +95,6 @@ bool Game::standWall(const PendingWall& wall) {
         writeByte(replay.output, 'B');
         writeByte(replay.output, bonus);
     }
-    return true;
 }
 
 void Game::updatePendingWalls() {
@@ -129,20 +117,15 @@ bool Game::wantsMoreWalls() {
 }
 
 std::optional<Square> Game::chooseWallSquare() {
-    const Square high{grid_squares_x - 2, grid_squares_y - 2};
     if (replay.isOlderThan(scoredSquaresFrom)) {
         Square square;
-        square.x = uniformInt(legacyRespawnRng, 1, high.x);
-        square.y = uniformInt(legacyRespawnRng, 1, high.y);
+        square.x = uniformInt(legacyRespawnRng, firstInnerSquare().x, lastInnerSquare().x);
+        square.y = uniformInt(legacyRespawnRng, firstInnerSquare().y, lastInnerSquare().y);
         return square;
     }
-    std::vector<Square> living;
-    for (const auto& player : players) {
-        if (!player->dead) {
-            living.push_back(player->square());
-        }
-    }
-    return findBestSquare({1, 1}, high, [&](Square square) { return wallScore(*this, square, living); });
+    const std::vector<Square> living = squaresOfTheLiving();
+    return findBestSquare(firstInnerSquare(), lastInnerSquare(),
+                          [&](Square square) { return wallScore(*this, square, living); });
 }
 
 void Game::updateRespawningWalls() {

@@ -1,7 +1,11 @@
 #include "arena/square_score.h"
 
+#include <algorithm>
+
 #include "arena/game.h"
+#include "base/distance.h"
 #include "base/random.h"
+#include "players/player.h"
 
 namespace vandrel {
 
@@ -31,12 +35,30 @@ std::optional<Square> findBestSquare(Square min, Square max, const SquareScore& 
     Best best;
     for (int y = min.y; y <= max.y; ++y) {
         for (int x = min.x; x <= max.x; ++x) {
-            if (!isIndestructible(squareGrid.at(x, y))) {
+            if (!isSolid({x, y})) {
                 best.offer({x, y}, score({x, y}));
             }
         }
     }
     return best.square();
+}
+
+float leastSquaredDistance(Square square, const std::vector<Square>& others, float ifNone) {
+    float least = ifNone;
+    for (const Square other : others) {
+        least = std::min(least, squaredDistance(square, other));
+    }
+    return least;
+}
+
+std::vector<Square> squaresOfTheLiving() {
+    std::vector<Square> squares;
+    for (const auto& player : players) {
+        if (!player->dead) {
+            squares.push_back(player->square());
+        }
+    }
+    return squares;
 }
 
 std::optional<Square> Game::sampleBestSquare(Square min, Square max, const SquareScore& score, int samples) {
@@ -50,7 +72,7 @@ std::optional<Square> Game::sampleBestSquare(Square min, Square max, const Squar
             if (++pairs > pairsPerSample) {
                 return std::nullopt;
             }
-        } while (isIndestructible(squareGrid.at(candidate)));
+        } while (isSolid(candidate));
         best.offer(candidate, score(candidate));
     }
     return best.square();

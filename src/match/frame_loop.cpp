@@ -124,13 +124,12 @@ void FrameLoop::paintFrame() {
     if (alwaysShowFPS) {
         world_.writeFrameRate();
     }
-    // The overlay shows the times of the frame before: this frame's are not known while it is drawn.
     const float render1 = theProfiler.stopAveraged("render1").second;
     theProfiler.start("render2");
     drawOverlay();
     world_.present();
-    render1Time_ = render1;
-    render2Time_ = theProfiler.stopAveraged("render2").second;
+    const float render2 = theProfiler.stopAveraged("render2").second;
+    lastFrame_ = {advanceTime_, render1, render2};
     ++renderedFrames;
 }
 
@@ -139,8 +138,8 @@ void FrameLoop::drawOverlay() const {
     if (diagnostic) {
         const auto ms = [](float seconds) { return seconds * 1000.0f; };
         world_.writeTimings(fmt::format("Update: {:.1f}ms  Render1: {:.1f}ms  Render2: {:.1f}ms  Frame: {:.1f}ms",
-                                        ms(advanceTime_), ms(render1Time_), ms(render2Time_),
-                                        ms(advanceTime_ + render1Time_ + render2Time_)));
+                                        ms(lastFrame_.advance), ms(lastFrame_.render1), ms(lastFrame_.render2),
+                                        ms(lastFrame_.sum())));
         world_.writeOverlay(fmt::format("{}", static_cast<int>(frameCounter)), overlayRow);
         world_.writeOverlay(fmt::format("{}", game_.shrinkCountdown), 2 * overlayRow);
         overlayY = 3 * overlayRow;

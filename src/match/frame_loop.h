@@ -49,6 +49,16 @@ struct FrameLoopWorld {
 // The world of the real game: event queue, devices, keyboard, display.
 FrameLoopWorld realWorld();
 
+// Seconds. What the overlay shows are those of the last frame that was finished: a frame's own are not known while it
+// is drawn.
+struct FrameTimings {
+    float advance = 0.0f;
+    float render1 = 0.0f;
+    float render2 = 0.0f;
+
+    float sum() const { return advance + render1 + render2; }
+};
+
 class FrameLoop {
   public:
     // `replayName` is shown in diagnostic mode; empty in a new game. `music` may be null.
@@ -73,10 +83,8 @@ class FrameLoop {
     FrameLoopWorld world_;
     RoundEnding ending_;
     int skipCount_ = 0;
-    // Seconds, of the frame last finished.
-    float advanceTime_ = 0.0f;
-    float render1Time_ = 0.0f;
-    float render2Time_ = 0.0f;
+    float advanceTime_ = 0.0f;  // seconds, of the latest update
+    FrameTimings lastFrame_;
 };
 
 }  // namespace vandrel

@@ -5,7 +5,6 @@
 #include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
-#include "presentation/play_sample.h"
 
 namespace vandrel {
 
@@ -36,10 +35,6 @@ int speedAgainstHumans() {
     return mean >= fastHumans || fastest == gameOptions.speedCap ? raisedSpeed : usualSpeed;
 }
 
-bool isSolid(Square square) {
-    return isIndestructible(squareGrid.at(square));
-}
-
 void lookForWayOut(Player& snake, Square square) {
     if (!isSolid(square + directionOf(snake.facing))) {
         return;
@@ -66,9 +61,7 @@ std::shared_ptr<Player> createAISnake(int num, Square square, std::optional<int>
     if (!version.has_value() || *version >= looksForWayOutFrom) {
         lookForWayOut(*snake, square);
     }
-    playSample(SampleIds::Snake, fullVolume);
-    snake->setSnakeLength(gameOptions.snakeStartLength);
-    snake->shield = false;
+    snake->becomeSnake();
     return snake;
 }
 

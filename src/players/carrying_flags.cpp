@@ -1,9 +1,9 @@
 // Flags and the players who touch them: recovery, taking, carrying, capture.
 #include <algorithm>
-#include <cmath>
 
 #include "arena/game.h"
 #include "arena/sparks.h"
+#include "base/distance.h"
 #include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
@@ -18,12 +18,6 @@ namespace {
 constexpr int recoverySpeed = 2000;  // of its gong
 constexpr int ownFlagStaysFrom = replayVersion(0, 0, 7);
 constexpr int sharedBasesRefuseFrom = replayVersion(0, 96, 6);
-
-double distance(Pixel a, Pixel b) {
-    const int dx = a.x - b.x;
-    const int dy = a.y - b.y;
-    return std::sqrt(static_cast<double>(dx * dx + dy * dy));
-}
 
 void sendHome(Flag& flag) {
     flag.moveTo(squareToPixel(flagHome(flag)));
@@ -44,9 +38,9 @@ void Player::updateFlagsTouched(const PackagedReplayData& replayData) {
         }
         if (canCapture(replayData)) {
             capture(flag, replayData);
-        } else {
-            flag.moveTo(position());
+            continue;
         }
+        flag.moveTo(position());
         if (ghost && shieldTimer > runningShield()) {
             shieldTimer = runningShield();
         }
@@ -54,7 +48,7 @@ void Player::updateFlagsTouched(const PackagedReplayData& replayData) {
 }
 
 void Player::touchLooseFlag(Flag& flag, const PackagedReplayData& replayData) {
-    const bool own = flag.team == team && !replayData.isOlderThan(ownFlagStaysFrom);
+    const bool own = flag.team >= 0 && flag.team == team && !replayData.isOlderThan(ownFlagStaysFrom);
     if (!own) {
         flag.carrier = weak_from_this();
         flag.inBase = false;
@@ -64,9 +58,7 @@ void Player::touchLooseFlag(Flag& flag, const PackagedReplayData& replayData) {
         return;
     }
     playSample(SampleIds::Gong2, normalVolume, centrePan, recoverySpeed);
-    game->addToast(std::make_unique<TimedToast>(
-        "Flag recovered", Vector2Base<float>{static_cast<float>(flag.x), static_cast<float>(flag.y)},
-        playerToastVelocity, playerToastFrames, FontId::Builtin));
+    game->tell("Flag recovered", flag.position());
     sendHome(flag);
 }
 
@@ -94,8 +86,7 @@ void Player::capture(Flag& flag, const PackagedReplayData& replayData) {
     sendHome(flag);
     flag.carrier.reset();
     playSample(SampleIds::Gong2);
-    const Pixel base = squareToPixel(own.base());
-    addSparks({base.x + halfSquare, base.y + halfSquare});
+    addSparks(centreOf(own.base()));
     verifyCapture(replayData, team, own.getScore());
 }
 

@@ -9,7 +9,6 @@ namespace vandrel {
 
 namespace {
 
-constexpr int flameSoundPeriod = 10;
 constexpr int flameSoundSpeed = 3000;
 constexpr int rocketThrottle = 47;  // frames, less some for each bomb that may be out
 constexpr int rocketThrottlePerBomb = 3;

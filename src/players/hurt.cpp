@@ -9,6 +9,7 @@
 #include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
+#include "players/version_gates.h"
 #include "presentation/play_sample.h"
 #include "shell/log.h"
 #include "shell/switches.h"
@@ -22,9 +23,7 @@ constexpr int crawlFrames = 240;
 constexpr int endOfSnakeSpeed = 2000;  // of its sound
 
 constexpr int releasedWhenCrawlingFrom = replayVersion(0, 95, 9);
-constexpr int majorStunFrom = replayVersion(0, 95, 16);
 constexpr int stunHalvesFrom = replayVersion(0, 95, 17);
-constexpr int snakesCrushedFrom = replayVersion(1, 0, 10);
 
 bool halvesThroughShield(DeathReason reason) {
     return reason == DeathReason::SnakeBodyHitByAppearingWall || reason == DeathReason::SnakeHeadPushedWall ||

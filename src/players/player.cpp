@@ -10,6 +10,7 @@
 #include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/bomb_timing.h"
+#include "players/version_gates.h"
 #include "presentation/play_sample.h"
 #include "shell/log.h"
 
@@ -23,11 +24,8 @@ int snakeCount = 0;  // players now in snake form
 
 constexpr int humanSnakeLength = 4;
 constexpr int shieldFrames = 120;
-constexpr int walkFramePixels = 10;
 constexpr int firstRange = 2;
-constexpr int flameSoundPeriod = 10;
 constexpr int crawlersMayNotBidFrom = replayVersion(1, 0, 11);
-constexpr int majorStunFrom = replayVersion(0, 95, 16);
 
 }  // namespace
 
@@ -62,8 +60,15 @@ int Player::lastingShield() {
     return runningShield() + 1;
 }
 
-Square Player::square() const {
-    return squareUnder({x, y});
+void Player::becomeSnake() {
+    playSample(SampleIds::Snake, fullVolume);
+    setSnakeLength(isAI ? gameOptions.snakeStartLength : humanSnakeLength);
+    shield = false;
+}
+
+bool Player::hasBodyOn(Square square) const {
+    return isSnake() && std::any_of(snakeParts.begin(), snakeParts.end(),
+                                    [&](const SnakePart& part) { return squareOf(part) == square; });
 }
 
 void Player::reset() {
@@ -106,9 +111,7 @@ void Player::startRound() {
     particles.clear();
     reset();
     if (gameOptions.startAsSnake) {
-        playSample(SampleIds::Snake, fullVolume);
-        setSnakeLength(isAI ? gameOptions.snakeStartLength : humanSnakeLength);
-        shield = false;
+        becomeSnake();
         if (y > arenaHeightPixels() / 2) {
             facing = Facing::Up;
         }

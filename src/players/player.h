@@ -10,6 +10,7 @@
 #include <tuple>
 #include <vector>
 
+#include "arena/arena.h"
 #include "base/facing.h"
 #include "base/vector2.h"
 #include "input/controls.h"
@@ -46,6 +47,11 @@ struct TrailPoint {
 
 // x, y in pixels, and the heading of the path there.
 using SnakePart = std::tuple<int, int, Facing>;
+
+// The square on which the part mainly stands.
+inline Square squareOf(const SnakePart& part) {
+    return squareUnder({std::get<0>(part), std::get<1>(part)});
+}
 
 // One frame's input. `xDir`, `yDir` are -1, 0 or 1.
 struct FrameInput {
@@ -101,11 +107,15 @@ class Player : public std::enable_shared_from_this<Player> {
 
     Pixel position() const { return {x, y}; }
     Pixel centre() const { return {x + 16, y + 16}; }
-    Square square() const;
+    Square square() const { return squareUnder({x, y}); }
     bool isSnake() const { return snakeLength > 0; }
     int snakeLengthNow() const { return snakeLength; }
     // The number of body parts it should have; 0 ends snake form.
     void setSnakeLength(int length);
+    // Takes snake form, with its sound: by powerup, by option, or as a new snake of the computer.
+    void becomeSnake();
+    // Whether this is a snake with a part of its body mainly on the square.
+    bool hasBodyOn(Square square) const;
     // Players now in snake form, living or not. While there is none the queries for heads and bodies have nothing to
     // look at.
     static int snakesInPlay();
@@ -172,6 +182,9 @@ class Player : public std::enable_shared_from_this<Player> {
     std::vector<TrailPoint> trail;  // at most 20
 
   private:
+    static constexpr int walkFramePixels = 10;   // of way, for one walk frame
+    static constexpr int flameSoundPeriod = 10;  // frames
+
     using RecordInput = std::function<void(int xDir, int yDir, bool fire, bool button2)>;
 
     // Lifecycle.

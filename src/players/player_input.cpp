@@ -2,16 +2,14 @@
 #include <map>
 
 #include "base/random.h"
-#include "base/version.h"
 #include "players/player.h"
+#include "players/version_gates.h"
 #include "replay/unit/input_record.h"
 #include "shell/switches.h"
 
 namespace vandrel {
 
 namespace {
-
-constexpr int deadHaveRecordsBelow = replayVersion(0, 95, 10);
 
 // A walk by chance: one direction for some frames.
 struct RandomWalk {
@@ -47,7 +45,7 @@ FrameInput walkAtRandom(int num) {
 // later.
 bool Player::readInput(const PackagedReplayData& replayData, FrameInput& input) {
     if (replayData.playback) {
-        if (!dead || replayData.isOlderThan(deadHaveRecordsBelow)) {
+        if (!dead || replayData.isOlderThan(livingOnlyFrom)) {
             playInput(replayData, input);
         }
         return false;

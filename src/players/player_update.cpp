@@ -2,13 +2,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "arena/game.h"
-#include "base/version.h"
+#include "base/distance.h"
 #include "match/options/game_options.h"
 #include "players/bomb_timing.h"
 #include "players/player.h"
+#include "players/version_gates.h"
 #include "presentation/play_sample.h"
 #include "replay/unit/verification.h"
 #include "shell/frame_counter.h"
@@ -21,7 +21,6 @@ namespace {
 constexpr std::size_t longestTrail = 20;
 constexpr int spinFrames = 5;
 constexpr int pingFrames = 60;  // not scaled by the rate
-constexpr int deadHaveLinesBelow = replayVersion(0, 95, 10);
 
 Facing nextSpin(Facing facing) {
     switch (facing) {
@@ -35,12 +34,6 @@ Facing nextSpin(Facing facing) {
             break;
     }
     return Facing::Down;
-}
-
-double distance(Pixel a, Pixel b) {
-    const int dx = a.x - b.x;
-    const int dy = a.y - b.y;
-    return std::sqrt(static_cast<double>(dx * dx + dy * dy));
 }
 
 }  // namespace
@@ -67,7 +60,7 @@ void Player::update(const PackagedReplayData& replayData, Game* currentGame, boo
     }
     // In the update that meets the end mark somebody may still come back, of which no line was written.
     const bool beyondRecords = game != nullptr && game->endMarkSeen;
-    if (verifyEnabled && !beyondRecords && (!dead || replayData.isOlderThan(deadHaveLinesBelow))) {
+    if (verifyEnabled && !beyondRecords && (!dead || replayData.isOlderThan(livingOnlyFrom))) {
         verifyPosition(replayData);
     }
 }
@@ -191,10 +184,7 @@ void Player::updateButton2(const FrameInput& input) {
     ++auction->price;
     auction->bidder = shared_from_this();
     playSample(SampleIds::Cash2);
-    game->addToast(
-        std::make_unique<TimedToast>(fmt::format("Bid: {}", auction->price),
-                                     Vector2Base<float>{static_cast<float>(x + 16), static_cast<float>(y + 16)},
-                                     playerToastVelocity, playerToastFrames, FontId::Builtin));
+    game->tell(fmt::format("Bid: {}", auction->price), centre());
 }
 
 void Player::verifyPosition(const PackagedReplayData& replayData) const {

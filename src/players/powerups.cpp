@@ -1,6 +1,7 @@
 // Powerups: picking them up, and what each does to who takes it and to the others.
 #include <fmt/format.h>
 
+#include <array>
 #include <string>
 
 #include "arena/bonus.h"
@@ -20,7 +21,42 @@ namespace {
 
 constexpr int stopFrames = 150;
 constexpr int snailFramesPerSecond = 60;  // at every rate
-constexpr int humanSnakeLength = 4;
+
+struct PickUpSound {
+    int bonus;
+    SampleIds sample;
+    int volume = normalVolume;
+    int speed = normalSampleSpeed;
+};
+
+// Speed, Ghost and Snake are missing: the sound of the first two tells whether they were of use, and every new snake
+// has that of the last.
+constexpr std::array<PickUpSound, 16> pickUpSounds{{
+    {Bonus::Bomb, SampleIds::HitBass},
+    {Bonus::Range, SampleIds::Plugin},
+    {Bonus::Controller, SampleIds::FX012, normalVolume, 800},
+    {Bonus::Timebomb, SampleIds::FX012},
+    {Bonus::Shield, SampleIds::CrapDing},
+    {Bonus::QuestionShield, SampleIds::CrapDing},
+    {Bonus::Cash, SampleIds::Cash2},
+    {Bonus::Superman, SampleIds::Strength, fullVolume},
+    {Bonus::Stop, SampleIds::CrapDing, normalVolume, 500},
+    {Bonus::QuestionStop, SampleIds::CrapDing, normalVolume, 500},
+    {Bonus::Snail, SampleIds::Splurge},
+    {Bonus::Annhiliator, SampleIds::Pickup_Anh, fullVolume},
+    {Bonus::Flamethrower, SampleIds::Flamer, fullVolume},
+    {Bonus::RocketLauncher, SampleIds::Rocket, fullVolume},
+    {Bonus::QuestionFastIgnition, SampleIds::CrapDing, normalVolume, 3000},
+    {Bonus::UltraBomb, SampleIds::Explosion1, fullVolume, 2000},
+}};
+
+void playSoundOf(int bonus) {
+    for (const PickUpSound& sound : pickUpSounds) {
+        if (sound.bonus == bonus) {
+            playSample(sound.sample, sound.volume, centrePan, sound.speed);
+        }
+    }
+}
 
 }  // namespace
 
@@ -51,30 +87,25 @@ void Player::givePowerup(int bonus) {
     }
     std::string suffix;
     applyPowerup(bonus, suffix);
-    game->addToast(
-        std::make_unique<TimedToast>(fmt::format("{}{}", checkedAt(bonusNames, bonus).displayName, suffix),
-                                     Vector2Base<float>{static_cast<float>(x + 16), static_cast<float>(y + 16)},
-                                     playerToastVelocity, playerToastFrames, FontId::Builtin));
+    game->tell(fmt::format("{}{}", checkedAt(bonusNames, bonus).displayName, suffix), centre());
 }
 
 void Player::applyPowerup(int bonus, std::string& suffix) {
+    playSoundOf(bonus);
     switch (bonus) {
         case Bonus::Bomb:
             takeExtraBomb();
             break;
         case Bonus::Range:
-            playSample(SampleIds::Plugin);
             ++range;
             break;
         case Bonus::Speed:
             takeSpeed(suffix);
             break;
         case Bonus::Controller:
-            playSample(SampleIds::FX012, normalVolume, centrePan, 800);
             bombType = BombType::RemoteControl;
             break;
         case Bonus::Timebomb:
-            playSample(SampleIds::FX012);
             bombType = BombType::Detonator;
             break;
         case Bonus::Ghost:
@@ -83,7 +114,6 @@ void Player::applyPowerup(int bonus, std::string& suffix) {
             break;
         case Bonus::Shield:
         case Bonus::QuestionShield:
-            playSample(SampleIds::CrapDing);
             shield = true;
             ghost = false;
             shieldTimer = lastingShield();
@@ -95,41 +125,31 @@ void Player::applyPowerup(int bonus, std::string& suffix) {
             takeDeath();
             break;
         case Bonus::Superman:
-            playSample(SampleIds::Strength, fullVolume);
             strength = true;
             break;
         case Bonus::Stop:
         case Bonus::QuestionStop:
-            playSample(SampleIds::CrapDing, normalVolume, centrePan, 500);
             forEveryOther([](Player& other) { other.stopTimer = scaledFrames(stopFrames); });
             break;
         case Bonus::Snail:
-            playSample(SampleIds::Splurge);
             forEveryOther([](Player& other) { other.slowTimer = gameOptions.snailSeconds * snailFramesPerSecond; });
             break;
         case Bonus::Snake:
-            playSample(SampleIds::Snake, fullVolume);
-            setSnakeLength(isAI ? gameOptions.snakeStartLength : humanSnakeLength);
-            shield = false;
+            becomeSnake();
             break;
         case Bonus::Annhiliator:
-            playSample(SampleIds::Pickup_Anh, fullVolume);
             annihilator = true;
             break;
         case Bonus::Flamethrower:
-            playSample(SampleIds::Flamer, fullVolume);
             bombType = BombType::Flamethrower;
             break;
         case Bonus::RocketLauncher:
-            playSample(SampleIds::Rocket, fullVolume);
             bombType = BombType::RocketLauncher;
             break;
         case Bonus::QuestionFastIgnition:
-            playSample(SampleIds::CrapDing, normalVolume, centrePan, 3000);
             fastIgnition = true;
             break;
         case Bonus::UltraBomb:
-            playSample(SampleIds::Explosion1, fullVolume, centrePan, 2000);
             ultraBomb = true;
             break;
         default:
@@ -138,7 +158,6 @@ void Player::applyPowerup(int bonus, std::string& suffix) {
 }
 
 void Player::takeExtraBomb() {
-    playSample(SampleIds::HitBass);
     ++maxBombs;
     if (!gameOptions.bombPowerupResetsBombType || bombType == BombType::Normal) {
         return;
@@ -175,7 +194,6 @@ void Player::takeGhost() {
 }
 
 void Player::takeCash(std::string& suffix) {
-    playSample(SampleIds::Cash2);
     ++cash;
     suffix = fmt::format(" ({})", cash);
     if (!game->replay.playback) {

@@ -4,6 +4,7 @@
 #include "arena/game.h"
 #include "base/version.h"
 #include "players/player.h"
+#include "players/version_gates.h"
 #include "presentation/play_sample.h"
 
 namespace vandrel {
@@ -11,7 +12,6 @@ namespace vandrel {
 namespace {
 
 constexpr int crushingFrom = replayVersion(0, 96, 13);
-constexpr int snakesCrushedFrom = replayVersion(1, 0, 10);
 
 bool isFreeForPush(Square square) {
     return squareGrid.at(square) == SquareKind::Empty && bonusGrid.at(square) == 0 && !hasBomb(square);
@@ -25,8 +25,7 @@ bool isPushableBomb(const Bomb& bomb) {
 bool hasTailOn(const Player& snake, Square square) {
     const std::size_t end = std::min(snake.snakeParts.size(), static_cast<std::size_t>(snake.snakeLengthNow()));
     for (std::size_t i = 1; i < end; ++i) {
-        const auto& [partX, partY, partFacing] = snake.snakeParts[i];
-        if (squareUnder({partX, partY}) == square) {
+        if (squareOf(snake.snakeParts[i]) == square) {
             return true;
         }
     }

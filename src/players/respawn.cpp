@@ -14,10 +14,6 @@ namespace {
 constexpr int respawnRoomRadius = 2;  // squares opened each way
 constexpr int clearedSquaresFrom = replayVersion(0, 0, 9);
 
-bool isSolid(Square square) {
-    return isIndestructible(squareGrid.at(square));
-}
-
 bool comesBackTowardBase() {
     switch (gameOptions.gameMode) {
         case GameMode::CaptureTheFlag:

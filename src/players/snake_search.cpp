@@ -160,8 +160,8 @@ void SnakeBoard::laySnakes() {
             continue;
         }
         block(player->square());
-        for (const auto& [x, y, facing] : player->snakeParts) {
-            block(squareUnder({x, y}));
+        for (const SnakePart& part : player->snakeParts) {
+            block(squareOf(part));
         }
     }
 }

@@ -8,7 +8,6 @@ namespace vandrel {
 
 namespace {
 
-constexpr int walkFramePixels = 10;
 constexpr int lastWalkFrame = 6;
 constexpr int crawlFrameEnd = 3;
 constexpr int laneCentre = 16;  // of the centre's place inside its square

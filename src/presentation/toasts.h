@@ -52,8 +52,4 @@ class DisplayScoreToast final : public TimedToast {
     int points;
 };
 
-// How long most toasts of a player last, in updates, and how fast they rise, in pixels an update.
-inline constexpr int playerToastFrames = 90;
-inline constexpr Vector2Base<float> playerToastVelocity{0.0f, -0.5f};
-
 }  // namespace vandrel

@@ -213,6 +213,17 @@ TEST_F(PlacementTest, TheNinthRoyaleTeamStartsFarthestFromTheOthers) {
     EXPECT_EQ(Game::getInitialPlayerPositions()[8], (Square{10, 9})) << "nine from an edge base, more from the rest";
 }
 
+TEST_F(PlacementTest, ARoyaleTeamBehindAnEmptyOneFindsItsStart) {
+    arena(31, 19);
+    people(GameMode::BattleRoyale, 10, 10);
+    players[8]->team = 9;
+    teams[9].members = {players[8], players[9]};
+    teams[8].members.clear();
+    const Squares found = Game::getInitialPlayerPositions();
+    EXPECT_EQ(found[8], (Square{10, 9})) << "where the ninth would have been";
+    EXPECT_EQ(found[9], (Square{12, 9})) << "beside its mate";
+}
+
 TEST_F(PlacementTest, ARoyaleMateWithoutASquareIsAnError) {
     arena(19, 11);
     people(GameMode::BattleRoyale, 80, 2);

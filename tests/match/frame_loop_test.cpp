@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <deque>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "arena/game.h"
@@ -57,7 +59,10 @@ class FrameLoopTest : public testing::Test {
             totalTicks += ticks_.front();
             ticks_.pop_front();
         };
-        world.pollDevices = [this] { story_ += 'u'; };
+        world.pollDevices = [this] {
+            story_ += 'u';
+            std::this_thread::sleep_for(updateTakes_);
+        };
         world.fastForwardToggled = [this] {
             const bool toggled = toggleAtPass_ == 0;
             --toggleAtPass_;
@@ -66,7 +71,7 @@ class FrameLoopTest : public testing::Test {
         world.pause = [this](const std::shared_ptr<Music>& /*music*/) { return frameCounter == pauseAtFrame_; };
         world.paint = [this](Game& /*game*/) { story_ += 'p'; };
         world.writeOverlay = [this](const std::string& text, int y) { overlay_.emplace_back(text, y); };
-        world.writeTimings = [this](const std::string& text) { overlay_.emplace_back(text.substr(0, 8), 0); };
+        world.writeTimings = [this](const std::string& text) { overlay_.emplace_back(text, 0); };
         world.writeFrameRate = [] {};
         world.present = [] {};
         return world;
@@ -81,6 +86,7 @@ class FrameLoopTest : public testing::Test {
     std::deque<int> ticks_;
     std::string story_;
     std::vector<std::pair<std::string, int>> overlay_;
+    std::chrono::milliseconds updateTakes_{0};
     int toggleAtPass_ = -1;
     int pauseAtFrame_ = -1;
 };
@@ -158,9 +164,12 @@ TEST_F(FrameLoopTest, DiagnosticModeShowsTimingsFrameAndShrinkCountdown) {
     diagnostic = true;
     fastForward = true;
     advanceLimit = 2;
+    updateTakes_ = std::chrono::milliseconds(2);
     run({0, 0, 0});
     ASSERT_GE(overlay_.size(), 4U);
-    EXPECT_EQ(overlay_[0], std::make_pair(std::string("Update: "), 0));
+    EXPECT_EQ(overlay_[0],
+              std::make_pair(std::string("Update: 0.0ms  Render1: 0.0ms  Render2: 0.0ms  Frame: 0.0ms"), 0))
+        << "no frame was finished before the first, however long its own update took";
     EXPECT_EQ(overlay_[1], std::make_pair(std::string("0"), 10));
     EXPECT_EQ(overlay_[2], std::make_pair(std::string("9999"), 20));
     EXPECT_EQ(overlay_[3], std::make_pair(std::string(">>"), 30));

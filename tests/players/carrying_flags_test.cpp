@@ -117,6 +117,15 @@ TEST_F(Flags, StartTheTimeOfAGhostWhoCarriesThem) {
     EXPECT_EQ(player->shieldTimer, Player::runningShield() - 1);
 }
 
+TEST_F(Flags, LeaveTheGhostWhoCapturesThemItsTime) {
+    player->x = 32;
+    giveTo(player, 1);
+    player->givePowerup(Bonus::Ghost);
+    act();
+    EXPECT_EQ(teams[0].score, 1);
+    EXPECT_EQ(player->shieldTimer, Player::lastingShield()) << "it carries nothing any more";
+}
+
 TEST_F(Flags, AreCapturedAtTheBaseWithOnesOwnAtHome) {
     struct Row {
         const char* what;
@@ -162,6 +171,15 @@ TEST_F(Flags, ANeutralOneNeedsNoFlagAtHome) {
     EXPECT_EQ(teams[0].score, 1);
     EXPECT_EQ(flagOf(0).position(), (Pixel{7 * 32, 5 * 32}));
     EXPECT_TRUE(flagOf(0).inBase);
+}
+
+TEST_F(Flags, OfNobodyAreNotRecoveredByWhoHasNoTeamEither) {
+    player->team = -1;
+    flagOf(1).team = -1;
+    dropAt(1, player->position());
+    act();
+    EXPECT_FALSE(flagOf(1).inBase) << "a neutral flag goes home by capture only";
+    EXPECT_TRUE(carries(1));
 }
 
 class FlagsInEverything : public Flags {
