@@ -4,9 +4,12 @@
 #include <allegro5/allegro_ttf.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <list>
 #include <memory>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 #include "presentation/drawing.h"
 #include "presentation/toasts_drawing.h"
@@ -81,6 +84,22 @@ TEST_F(Text, ToastsAreCentredAndTruncated) {
     EXPECT_NEAR(box.left + box.right, 120, 3);
     EXPECT_GE(box.top, 30);
     EXPECT_LE(box.bottom, 38);
+}
+
+TEST_F(Text, EachFontHasItsSizeAndWrappedTextStandsInRows) {
+    std::filesystem::create_directory_symlink(std::filesystem::path(VANDREL_SOURCE_DIR) / "game" / "fonts", "fonts");
+    loadFonts();
+    const std::pair<FontId, int> advances[] = {
+        {FontId::Builtin, 8}, {FontId::Font20, 14}, {FontId::Font24, 17}, {FontId::Font30, 21}, {FontId::Font64, 46}};
+    for (const auto& [font, advance] : advances) {
+        EXPECT_NEAR(al_get_text_width(fontHandle(font), "MMMM"), 4 * advance, 4) << advance;
+    }
+    // The blank behind the thirtieth becomes the break, and the dot stands at the start of the second row.
+    drawWrappedText(canvas_, std::string(30, ' ') + " .", 10, 0, 25, al_map_rgb(255, 255, 255));
+    const Box box = inkedBox();
+    EXPECT_GE(box.left, 10);
+    EXPECT_LT(box.right, 10 + 21);
+    EXPECT_GE(box.top, 25);
 }
 
 }  // namespace
