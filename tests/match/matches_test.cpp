@@ -3,6 +3,7 @@
 
 #include <map>
 
+#include "arena/sparks.h"
 #include "match/match_stage.h"
 #include "match/round_transitions.h"
 
@@ -178,6 +179,41 @@ TEST_F(MatchTest, PlayersKeepWhatIsTheirsFromRoundToRound) {
     EXPECT_FALSE(play());
 }
 
+TEST_F(MatchTest, EveryRoundDrawsItsOwnOptionsAndStartsWithoutSparks) {
+    gameOptions.winsNeeded = 3;
+    gameOptions.auctions = 2;
+    letDie({{1}, {1}, {1}});
+    const auto deaths = onUpdate;
+    std::vector<int> intervals;
+    onUpdate = [&](int round) {
+        deaths(round);
+        if (frameCounter == 0) {
+            intervals.push_back(gameOptions.auctionInterval.value());
+            EXPECT_THAT(sparks, IsEmpty());
+        } else if (frameCounter == 200) {
+            addSparks({100, 100});
+        }
+    };
+    std::mt19937 expected = globalGenerator;
+    EXPECT_FALSE(play());
+    for (const int interval : intervals) {
+        EXPECT_EQ(interval, uniformInt(expected, 1200, 2000));
+    }
+    EXPECT_EQ(intervals.size(), 3U);
+}
+
+TEST_F(MatchTest, TheReplayTestRunsFastForwardWhateverTheSwitchSays) {
+    letDie({{1}});
+    const auto deaths = onUpdate;
+    onUpdate = [&](int round) {
+        deaths(round);
+        EXPECT_TRUE(fastForward);
+    };
+    EXPECT_FALSE(play(false, "", {.fastForward = true, .skipRoundEnd = false}));
+    EXPECT_FALSE(fastForward);
+    EXPECT_EQ(renderedFrames, 4) << "of 241 updates";
+}
+
 TEST_F(MatchTest, EveryRoundHasMusicThatFadesAtItsEndAndIsStopped) {
     gameOptions.winsNeeded = 2;
     letDie({{1}, {1}});
@@ -197,7 +233,7 @@ TEST_F(MatchTest, PlaysWithoutMusicToo) {
 
 TEST_F(MatchTest, TheSnakesOfTheComputerLeaveWithTheirRound) {
     gameOptions.gameMode = GameMode::SnakeHunter;
-    gameOptions.preparationTime = 1;
+    gameOptions.preparationTime = 2;
     gameOptions.snakeNumber = 1;
     gameOptions.winsNeeded = 2;
     std::vector<std::size_t> playersAtStart;
@@ -206,8 +242,10 @@ TEST_F(MatchTest, TheSnakesOfTheComputerLeaveWithTheirRound) {
             playersAtStart.push_back(players.size());
             EXPECT_EQ(teams.at(0).members.size(), 2U);
             EXPECT_THAT(teams.at(1).members, IsEmpty());
-        } else if (frameCounter == 1) {
-            ASSERT_EQ(players.size(), 3U);
+        } else if (frameCounter == 199) {
+            EXPECT_EQ(players.size(), 2U);
+        } else if (frameCounter == 200) {
+            ASSERT_EQ(players.size(), 3U) << "the hunters had their time to prepare";
             EXPECT_EQ(teams[1].members.size(), 1U);
             players[2]->die();
         }
@@ -289,6 +327,43 @@ INSTANTIATE_TEST_SUITE_P(Options, RandomnessTest,
                          [](const auto& test) {
                              return fmt::format("By{}From{}", test.param.increase, test.param.start);
                          });
+
+TEST(Randomness, RisesOnceInFiveRoundsOrThreeInFive) {
+    for (const auto& [increase, share] : std::map<int, double>{{1, 0.2}, {2, 0.6}}) {
+        TestRound round;
+        gameOptions.randomnessIncrease = increase;
+        constexpr int draws = 10'000;
+        int shown = 0;
+        for (int i = 0; i < draws; ++i) {
+            incrementRandomness(round.game(), [&](Game& /*game*/) { ++shown; });
+        }
+        EXPECT_EQ(gameOptions.randomness, shown);
+        EXPECT_NEAR(static_cast<double>(shown) / draws, share, 0.02);
+    }
+}
+
+TEST(FinishRound, BringsEverybodyBackAndSendsTheSnakesAway) {
+    for (const GameMode mode : {GameMode::SnakeHunter, GameMode::Everything}) {
+        RoundSetup setup;
+        setup.mode = mode;
+        TestRound round(setup);
+        round.addTeam({1, 5});
+        round.addTeam({13, 5});
+        const auto human = round.addPlayer({3, 5}, 0);
+        const auto snake = round.addSnake({9, 5}, Facing::Right, 4, true);
+        teams[1].members.push_back(snake);
+        human->dead = true;
+        human->remoteActive = true;
+        human->crawling = true;
+        gameOptions.winsNeeded = 1;
+        EXPECT_EQ(finishRound(round.game()), mode == GameMode::SnakeHunter) << "the snakes win their own mode";
+        EXPECT_FALSE(human->dead);
+        EXPECT_FALSE(human->remoteActive);
+        EXPECT_EQ(human->crawling, mode != GameMode::Everything);
+        EXPECT_THAT(players, ElementsAre(human));
+        EXPECT_EQ(teams[1].members.size(), mode == GameMode::SnakeHunter ? 0U : 1U);
+    }
+}
 
 TEST(ScoreTable, HoldsAllTeamsOrAllPlayersInTheirOrder) {
     TestRound round;
