@@ -1,5 +1,6 @@
-// Any bytes at all, played as a replay: they play, end early or are refused with an exception, and nothing worse. Built with clang it
-// is a libFuzzer target; with `VANDREL_FUZZ_REPLAYS_CORPUS` it plays the files and folders that it is given, once each.
+// Any bytes at all, played as a replay: they play, end early or are refused with an exception, and nothing worse. Built
+// with clang it is a libFuzzer target; with `VANDREL_FUZZ_REPLAYS_CORPUS` it plays the files and folders that it is
+// given, once each.
 #include <sys/mman.h>
 #include <unistd.h>
 
