@@ -54,6 +54,7 @@ std::vector<Sprite> spritesIn(const fs::path& directory) {
     std::sort(files.begin(), files.end(),
               [](const fs::path& a, const fs::path& b) { return sortKey(a.stem()) < sortKey(b.stem()); });
     std::vector<Sprite> sprites;
+    sprites.reserve(files.size());
     for (const fs::path& file : files) {
         sprites.push_back({file.stem().string(), readPng(file)});
     }

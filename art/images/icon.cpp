@@ -72,6 +72,7 @@ void appendNumber(std::vector<std::uint8_t>& bytes, std::size_t value, int count
 // The icon file: a directory of entries, then one PNG for each.
 std::vector<std::uint8_t> iconFile(const std::vector<Canvas>& pictures) {
     std::vector<std::vector<std::uint8_t>> encoded;
+    encoded.reserve(pictures.size());
     for (const Canvas& picture : pictures) {
         encoded.push_back(encodePng(picture));
     }
