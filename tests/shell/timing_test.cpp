@@ -66,7 +66,7 @@ TEST(ProfilerTest, AWatchGivesSecondsOnce) {
     profiler.start("a");
     EXPECT_LT(profiler.stop("a"), a) << "started again";
     EXPECT_GE(a, 0.02);
-    EXPECT_GE(profiler.stop("b"), a);
+    EXPECT_GE(profiler.stop("b"), 0.02) << "it ran on";
     EXPECT_EQ(profiler.stop("a"), 0.0) << "it does not run";
 }
 
