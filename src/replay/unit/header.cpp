@@ -93,9 +93,9 @@ void writeTeams(std::ostream* stream) {
 
 std::vector<int> readMembers(std::istream* stream) {
     const int count = checkedField("team members", readInt(stream), 0, gameOptions.numPlayers);
-    std::vector<int> numbers;
-    for (int i = 0; i < count; ++i) {
-        numbers.push_back(readInt(stream));
+    std::vector<int> numbers(static_cast<std::size_t>(count));
+    for (int& number : numbers) {
+        number = readInt(stream);
     }
     return numbers;
 }

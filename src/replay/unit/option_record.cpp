@@ -252,7 +252,7 @@ std::optional<GameOptions> readGameOptions(std::istream& stream, int& version) {
     if (!record) {
         return std::nullopt;
     }
-    return std::move(record->options);
+    return record->options;
 }
 
 std::vector<StoredOption> listStoredOptions(const OptionRecord& record) {

@@ -100,6 +100,7 @@ std::vector<ReplayInfo> getAllReplays(bool readHeaders) {
     }
     std::sort(order.begin(), order.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
     std::vector<ReplayInfo> sorted;
+    sorted.reserve(replays.size());
     for (const auto& [time, index] : order) {
         sorted.push_back(std::move(replays[index]));
     }
