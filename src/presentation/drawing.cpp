@@ -210,6 +210,11 @@ void drawFilledRectangle(const BitmapWrapper& target, int x1, int y1, int x2, in
     al_draw_filled_rectangle(real(x1), real(y1), real(x2), real(y2), colour);
 }
 
+void drawFilledTriangle(const BitmapWrapper& target, Pixel a, Pixel b, Pixel c, ALLEGRO_COLOR colour) {
+    const PrimitiveScope scope(target);
+    al_draw_filled_triangle(real(a.x), real(a.y), real(b.x), real(b.y), real(c.x), real(c.y), colour);
+}
+
 // The platform's coordinates are corners of pixels, so a point is half a pixel inside.
 void putPixel(const BitmapWrapper& target, int x, int y, ALLEGRO_COLOR colour) {
     const PrimitiveScope scope(target);

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "base/vector2.h"
 #include "presentation/bitmap_ids.h"
 #include "presentation/bitmap_wrapper.h"
 
@@ -89,6 +90,7 @@ void drawFilledEllipse(const BitmapWrapper& target, int x, int y, int radiusX, i
 void drawLine(const BitmapWrapper& target, int x1, int y1, int x2, int y2, ALLEGRO_COLOR colour, float thickness);
 void drawRectangle(const BitmapWrapper& target, int x1, int y1, int x2, int y2, ALLEGRO_COLOR colour, float thickness);
 void drawFilledRectangle(const BitmapWrapper& target, int x1, int y1, int x2, int y2, ALLEGRO_COLOR colour);
+void drawFilledTriangle(const BitmapWrapper& target, Pixel a, Pixel b, Pixel c, ALLEGRO_COLOR colour);
 void putPixel(const BitmapWrapper& target, int x, int y, ALLEGRO_COLOR colour);
 // Many single pixels at once.
 void putPixels(const BitmapWrapper& target, const std::vector<ColouredPixel>& pixels);
