@@ -1,5 +1,6 @@
 #include "match/play_the_game.h"
 
+#include <allegro5/keycodes.h>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include "arena/level_generation.h"
 #include "arena/sparks.h"
 #include "base/checked.h"
+#include "frontend/message_screen.h"
 #include "input/controls_manager.h"
 #include "match/match_players.h"
 #include "match/options/automatic_options.h"
@@ -21,7 +23,6 @@
 #include "presentation/ogg_music.h"
 #include "shell/game_screen.h"
 #include "shell/log.h"
-#include "shell/message_box.h"
 #include "shell/switches.h"
 #include "shell/timing.h"
 #include "shell/update_rate.h"
@@ -50,7 +51,7 @@ MatchWorld realMatchWorld() {
     world.showRandomness = showRandomness;
     world.showNoSpace = [](const std::string& text) {
         setGameScreenSlot(menuScreenSlot);
-        showMessageBox(text);
+        msgScreen({text}, ALLEGRO_KEY_ENTER, noCancelKey);
     };
     return world;
 }

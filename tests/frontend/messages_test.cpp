@@ -1,0 +1,208 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "frontend/credits.h"
+#include "frontend/message_screen.h"
+#include "frontend/screen_stage.h"
+#include "frontend/title_figure.h"
+#include "presentation/bitmap_ids.h"
+
+namespace vandrel {
+namespace {
+
+constexpr RGB black{};
+constexpr RGB white{255, 255, 255};
+
+// The rows of the screen, from `top` on, that hold a pixel of that colour, as first and last.
+struct Band {
+    int first = -1;
+    int last = -1;
+};
+
+Band inkedRows(RGB colour, int top, int height) {
+    Band band;
+    for (int y = top; y < top + height; ++y) {
+        for (int x = 0; x < screen->width(); ++x) {
+            if (pixelAt(*screen, x, y) == colour) {
+                band = {band.first == -1 ? y : band.first, y};
+                break;
+            }
+        }
+    }
+    return band;
+}
+
+class MessageScreen : public ScreenStage {
+  protected:
+    MessageScreen() {
+        setScreenSize(800, 600);
+        keysAt = [](int tick) { return tick == 2 ? std::set<int>{ALLEGRO_KEY_ENTER} : std::set<int>{}; };
+    }
+};
+
+TEST_F(MessageScreen, CentresItsRowsOnThePage) {
+    const std::vector<std::string> shown[] = {{"HHHH", "HHHH", "HHHH"}, {"HHHH\nHHHH", "HHHH"}};
+    for (const std::vector<std::string>& lines : shown) {
+        clearTo(*screen, al_map_rgb(9, 9, 9));
+        EXPECT_TRUE(msgScreen(lines, ALLEGRO_KEY_ENTER, noCancelKey));
+        const int inset = inkedRows(white, 212, 44).first - 212;  // of the capitals in their row
+        ASSERT_GE(inset, 0);
+        ASSERT_LT(inset, 15);
+        for (const int y : {212, 256, 300}) {
+            EXPECT_EQ(inkedRows(white, y, 44).first, y + inset);
+        }
+        EXPECT_EQ(inkedRows(white, 0, 212).first, -1);
+        EXPECT_EQ(inkedRows(white, 344, 256).first, -1);
+        EXPECT_EQ(pixelAt(*screen, 0, 0), black) << "what was there before is gone";
+        int left = 800;
+        int right = 0;
+        for (int x = 0; x < 800; ++x) {
+            for (int y = 212; y < 256; ++y) {
+                if (pixelAt(*screen, x, y) == white) {
+                    left = std::min(left, x);
+                    right = x;
+                }
+            }
+        }
+        EXPECT_NEAR(left + right, 800, 4);
+    }
+}
+
+TEST_F(MessageScreen, EndsByItsKeysAlone) {
+    struct Case {
+        const char* what;
+        int heldBefore;  // on the screen before; 0 for no key
+        int cancelKey;
+        std::function<std::set<int>(int tick)> keys;
+        bool answer;
+        int ticks;
+    };
+    const auto pressedAt = [](int key, int from) {
+        return [key, from](int tick) { return tick >= from ? std::set<int>{key} : std::set<int>{}; };
+    };
+    const auto escapeThenOk = [](int tick) -> std::set<int> { return {tick < 9 ? ALLEGRO_KEY_ESCAPE : ALLEGRO_KEY_Y}; };
+    const auto letGoAndPressedAgain = [](int tick) {
+        return tick == 7 || tick == 8 ? std::set<int>{} : std::set<int>{ALLEGRO_KEY_Y};
+    };
+    const Case cases[] = {
+        {"the OK key", 0, ALLEGRO_KEY_ESCAPE, pressedAt(ALLEGRO_KEY_Y, 5), true, 5},
+        {"the cancel key", 0, ALLEGRO_KEY_ESCAPE, pressedAt(ALLEGRO_KEY_ESCAPE, 5), false, 5},
+        {"no cancel key", 0, noCancelKey, escapeThenOk, true, 9},
+        {"an OK key still held", ALLEGRO_KEY_Y, ALLEGRO_KEY_ESCAPE, letGoAndPressedAgain, true, 9},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        keysAt = [&c](int) { return std::set<int>{c.heldBefore}; };
+        menuKeyPressed(ALLEGRO_KEY_Y, menuControlMode, false);
+        menuKeyPressed(ALLEGRO_KEY_ESCAPE, menuControlMode, false);
+        keysAt = c.keys;
+        EXPECT_EQ(msgScreen({"?"}, ALLEGRO_KEY_Y, c.cancelKey), c.answer);
+        EXPECT_EQ(totalTicks, c.ticks);
+    }
+}
+
+TEST(TitleFigure, ItsJointsSwingAndCarryWhatHangsFromThem) {
+    struct Case {
+        float clock;
+        int id;
+        Pixel expected;
+    };
+    const Case cases[] = {
+        {0.0f, 3, {250, 760}},  {0.0f, 1, {250, 770}},  {0.0f, 2, {514, 761}},  {0.0f, 4, {563, 761}},
+        {0.0f, 6, {397, 660}},  {0.0f, 13, {456, 992}}, {1.5f, 1, {349, 683}},  {1.5f, 2, {402, 819}},
+        {1.5f, 13, {477, 969}}, {1.5f, 19, {403, 632}}, {4.0f, 13, {424, 942}}, {4.0f, 7, {318, 563}},
+    };
+    TitleFigure figure;
+    for (const Case& c : cases) {
+        figure.clock = c.clock;
+        EXPECT_EQ(figure.position(c.id), c.expected) << "joint " << c.id << " at " << c.clock;
+    }
+    EXPECT_THROW(figure.position(20), std::out_of_range);
+}
+
+class TitleFigureDrawing : public ScreenStage {};
+
+TEST_F(TitleFigureDrawing, DrawsLinesTheHeadAndTwoDots) {
+    TitleFigure figure;
+    figure.draw(*screen);
+    const auto at = [&](int id) { return figure.position(id) + Pixel{0, -300}; };
+    for (const auto& [first, second] : {std::pair{3, 4}, std::pair{5, 9}, std::pair{13, 11}, std::pair{18, 19}}) {
+        const Pixel middle{(at(first).x + at(second).x) / 2, (at(first).y + at(second).y) / 2};
+        EXPECT_EQ(pixelAt(*screen, middle.x, middle.y), white) << "line " << first << ", " << second;
+    }
+    const Pixel corner = at(7);
+    const Pixel opposite = at(8);
+    EXPECT_EQ(pixelAt(*screen, (corner.x + opposite.x) / 2, corner.y), white);
+    EXPECT_EQ(pixelAt(*screen, opposite.x, (corner.y + opposite.y) / 2), white);
+    for (const int id : {14, 15}) {
+        int inked = 0;
+        for (int y = at(id).y - 3; y <= at(id).y + 3; ++y) {
+            for (int x = at(id).x - 3; x <= at(id).x + 3; ++x) {
+                inked += pixelAt(*screen, x, y) == white ? 1 : 0;
+            }
+        }
+        EXPECT_EQ(inked, 4) << "dot " << id;
+        EXPECT_EQ(pixelAt(*screen, at(id).x - 1, at(id).y - 1), white);
+    }
+}
+
+class Credits : public ScreenStage {
+  protected:
+    static constexpr RGB sealColour{200, 0, 0};
+
+    Credits() {
+        loadPlainImage(static_cast<int>(BitmapIds::VLogo3), {0, 0, 200}, 640, 160);
+        loadPlainImage(static_cast<int>(BitmapIds::MKR), sealColour, 96, 96);
+    }
+
+    // The page as it is when Escape is pressed at that tick.
+    void leaveAt(int ticks) {
+        keysAt = [ticks](int tick) { return tick == ticks ? std::set<int>{ALLEGRO_KEY_ESCAPE} : std::set<int>{}; };
+        credits();
+        EXPECT_EQ(totalTicks, ticks);
+    }
+};
+
+TEST_F(Credits, AllRowsStandOnThePageBelowTheLogo) {
+    leaveAt(3);
+    EXPECT_EQ(pixelAt(*screen, 960 - 320, 0), (RGB{0, 0, 200}));
+    EXPECT_EQ(pixelAt(*screen, 960 + 319, 159), (RGB{0, 0, 200}));
+    EXPECT_EQ(pixelAt(*screen, 960 + 320, 0), black);
+    EXPECT_GE(inkedRows({255, 208, 208}, 190, 33).first, 190) << "the first heading";
+    EXPECT_GE(inkedRows({208, 255, 208}, 190, 890).first, 190);
+    EXPECT_GE(inkedRows({208, 208, 255}, 190, 890).first, 190);
+    const Band names = inkedRows(white, 0, 1080);
+    EXPECT_GE(names.first, 190 + 33);
+    EXPECT_GT(names.last, 900);
+    EXPECT_LT(names.last, 1070) << "the last row is cut off";
+}
+
+TEST_F(Credits, TheSealWandersOverThePageTurningAndGrowing) {
+    int sizeBefore = 0;
+    for (const auto& [ticks, corner] : {std::pair{105, Pixel{1792, 537}}, std::pair{314, Pixel{961, 538}}}) {
+        leaveAt(ticks);
+        int size = 0;
+        int nearest = 1'000'000;
+        for (int y = 0; y < 1080; ++y) {
+            for (int x = 0; x < 1920; ++x) {
+                if (pixelAt(*screen, x, y) == sealColour) {
+                    ++size;
+                    nearest = std::min(nearest, std::abs(x - corner.x) + std::abs(y - corner.y));
+                }
+            }
+        }
+        EXPECT_GT(size, 0);
+        EXPECT_LE(nearest, 3) << "the corner after " << ticks << " updates";
+        EXPECT_NE(size, sizeBefore);
+        sizeBefore = size;
+    }
+}
+
+}  // namespace
+}  // namespace vandrel
