@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <utility>
+#include <vector>
 
 #include "base/random.h"
 #include "match/options/game_options.h"
@@ -13,7 +14,7 @@ namespace vandrel {
 
 namespace {
 
-Game* currentGame = nullptr;
+std::vector<Game*> livingGames;  // the current one last
 constexpr int wallAppearStyles = 5;
 constexpr int toldFrames = 90;  // not scaled by the rate
 constexpr Vector2Base<float> toldVelocity{0.0f, -0.5f};
@@ -26,7 +27,7 @@ Vector2Base<float> inFloat(Pixel pixel) {
 }  // namespace
 
 Game::Game(const PackagedReplayData& replayData) : replay(replayData), wallAppearStyle(gameRand() % wallAppearStyles) {
-    currentGame = this;
+    livingGames.push_back(this);
     if (gameOptions.respawnWallsResolved.enabled) {
         respawnCountdown = gameOptions.respawnWallsResolved.interval;
     }
@@ -36,13 +37,11 @@ Game::Game(const PackagedReplayData& replayData) : replay(replayData), wallAppea
 }
 
 Game::~Game() {
-    if (currentGame == this) {
-        currentGame = nullptr;
-    }
+    std::erase(livingGames, this);
 }
 
 Game* Game::current() {
-    return currentGame;
+    return livingGames.empty() ? nullptr : livingGames.back();
 }
 
 void Game::addToast(std::unique_ptr<Toast> toast) {

@@ -82,7 +82,7 @@ class Game {
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
 
-    // The game that runs now; null between rounds.
+    // The game that runs now, which is the newest there is; null between rounds.
     static Game* current();
 
     // One step of the round. `roundOver` is written by every call that reaches its last pass, `replayEnded` only ever
