@@ -11,6 +11,7 @@
 #include "arena/level_generation.h"
 #include "arena/sparks.h"
 #include "base/checked.h"
+#include "frontend/join_screen.h"
 #include "frontend/message_screen.h"
 #include "input/controls_manager.h"
 #include "match/match_players.h"
@@ -46,6 +47,7 @@ MatchWorld realMatchWorld() {
     MatchWorld world;
     world.frames = realWorld();
     world.devices = [] { return theControlsManager->devices; };
+    world.joinPlayers = playerJoinScreen;
     world.makeMusic = makeMatchMusic;
     world.setUpdateRate = [](int rate) { setUpdateRate(rate, gameOptions); };
     world.showRandomness = showRandomness;
@@ -72,7 +74,7 @@ class Match {
     enum class RoundResult { NextRound, MatchOver, Quit, NoSpace };
 
     void enter();
-    void makePlayers();
+    bool makePlayers();
     RoundResult playRound();
     bool setUp(Game& game, const PackagedReplayData& data);
     RoundEnding runFrames(Game& game);
@@ -101,18 +103,22 @@ void Match::enter() {
     world_.setUpdateRate(gameOptions.updaterate);
 }
 
-void Match::makePlayers() {
+// False when nobody is to play after all.
+bool Match::makePlayers() {
     const bool headerHasTeams = isPlayback() && replay_->version() >= teamsInHeaderFrom;
     if (!headerHasTeams && gameOptions.quickStartPlayers >= 1 && isTeamMode(gameOptions.gameMode)) {
         makeQuickStartTeams();
     }
     if (isPlayback()) {
         makeReplayPlayers(replay_->playerSetups(), replay_->version(), world_.devices());
-    } else {
+    } else if (gameOptions.quickStartPlayers > 0) {
         gameOptions.numPlayers = gameOptions.quickStartPlayers + 1;
         makeQuickStartPlayers(world_.devices());
+    } else if (!world_.joinPlayers()) {
+        return false;
     }
     makeSnakeHunterTeams();
+    return true;
 }
 
 bool Match::setUp(Game& game, const PackagedReplayData& data) {
@@ -202,7 +208,10 @@ void Match::leave() {
 
 bool Match::play() {
     enter();
-    makePlayers();
+    if (!makePlayers()) {
+        clearMatch();
+        return true;
+    }
     if (testOptions_.fastForward) {
         fastForward = true;
     }

@@ -16,6 +16,8 @@ struct MatchWorld {
     FrameLoopWorld frames;
     // The devices of the players, in their order.
     std::function<DeviceList()> devices;
+    // Lets the players and teams of the match join. False when that was left.
+    std::function<bool()> joinPlayers;
     // A new random track, playing. May give null.
     std::function<std::shared_ptr<Music>()> makeMusic;
     // Stores the rate in `gameOptions` and sets the clock to it.
@@ -27,8 +29,8 @@ struct MatchWorld {
 };
 
 // Plays a match by `gameOptions`, or the round of the replay named `replayName`. The options are put back at the end.
-// True if the match was left by quitting, or an arena could not be filled; false if it ran to its end. The caller then
-// brings back the menu's music and screen and releases the sprite cache.
+// True if the match was left by quitting, in the lobby too, or an arena could not be filled; false if it ran to its
+// end. The caller then brings back the menu's music and screen and releases the sprite cache.
 bool play_the_game(bool record, const std::string& replayName, ReplayTestOptions testOptions);
 
 // The same in the given world: without a display, a sound device or a clock, if that needs none.

@@ -100,6 +100,35 @@ TEST_F(MatchPlayersTest, ShareTheDevicesWhenThereAreFewer) {
     EXPECT_NE(devices[1], devices[0]);
 }
 
+// Two players as the lobby leaves them, each near a marker of its own.
+bool joinTwo() {
+    teams.resize(2);
+    for (int team = 0; team < 2; ++team) {
+        auto player = std::make_shared<Player>(5 - team, 0, team, PlayerLook{}, std::make_shared<NoControls>());
+        teams.at(static_cast<std::size_t>(team)).members.push_back(player);
+        players.push_back(player);
+    }
+    gameOptions.numPlayers = 2;
+    return true;
+}
+
+TEST_F(MatchPlayersTest, AreThoseOfTheLobbyWithoutQuickStart) {
+    joinPlayers = joinTwo;
+    EXPECT_THAT(teamsOf(GameMode::CaptureTheFlag, 1), ElementsAre(0, 1));
+    EXPECT_THAT(numbers, ElementsAre(5, 4));
+    EXPECT_THAT(teamsOf(GameMode::SnakeHunter, 1), Each(0));
+    EXPECT_EQ(teamCount, 2U);
+}
+
+TEST_F(MatchPlayersTest, DoNotPlayWhenTheLobbyIsLeft) {
+    joinPlayers = [] { return !joinTwo(); };
+    gameOptions.quickStartPlayers = 0;
+    EXPECT_TRUE(play());
+    EXPECT_EQ(rounds(), 0);
+    EXPECT_TRUE(players.empty());
+    EXPECT_TRUE(teams.empty());
+}
+
 TEST(SnakeHunterTeams, AreMadeAfreshFromWhatTheLobbyLeft) {
     RoundSetup setup;
     setup.mode = GameMode::SnakeHunter;

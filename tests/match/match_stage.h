@@ -96,6 +96,8 @@ class MatchStage : public testing::Test {
 
     // Called before each update, with the round's number from 0.
     std::function<void(int round)> onUpdate;
+    // Lets players join, where there is no quick start. False leaves the match.
+    std::function<bool()> joinPlayers;
     // The update of every round at which the window's close button is pressed.
     int closeAtUpdate = -1;
 
@@ -129,6 +131,7 @@ class MatchStage : public testing::Test {
         world.frames.writeFrameRate = [] {};
         world.frames.present = [] {};
         world.devices = [this] { return devices_; };
+        world.joinPlayers = [this] { return joinPlayers(); };
         world.makeMusic = [this] { return std::make_shared<CountedMusic>(music); };
         world.setUpdateRate = [this](int rate) {
             gameOptions.updaterate = rate;
