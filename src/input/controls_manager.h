@@ -25,16 +25,26 @@ inline constexpr int maxDevices = 100;
 
 using DeviceList = std::vector<std::shared_ptr<Controls>>;
 
+// A player of the match, as far as devices go.
+struct DeviceHolder {
+    int num = 0;  // of the player
+    std::shared_ptr<Controls> controls;
+};
+
+class JoystickDriver;
+
 class ControlsManager {
   public:
-    // Makes the four key sets and scans for devices.
-    ControlsManager();
+    // Makes the four key sets and scans for devices. Without a driver there are keyboards only. Throws
+    // std::runtime_error "al_install_joystick failed".
+    explicit ControlsManager(std::shared_ptr<JoystickDriver> joysticks = nullptr);
 
-    // Brings the list in step with what is there. True if it changed. The first scan puts the keyboard devices in, one
-    // for each key set.
+    // Brings the list in step with what is plugged in, and logs all of it. True if the list changed. The first scan
+    // puts the joysticks in, then a keyboard device for each key set; a joystick found later comes last of all. A
+    // device that has gone leaves the list, but not the player who holds it.
     bool rescan();
 
-    // Once per update: gives devices that are not driven by events their turn. True if the list changed.
+    // Once per update: gives devices that no event announces their turn. True if the list changed. There are none.
     bool poll();
 
     // The devices that a menu control mode admits beside the keyboard, which menus always read directly. With
@@ -45,11 +55,22 @@ class ControlsManager {
     // Makes an inert device for the platform's own controller service and appends it.
     void addSteamInputControls();
 
-    // Tells whether some player of the match holds a device. The match driver sets it; until then nobody holds any.
-    std::function<bool(const Controls& device)> isHeldByPlayer;
+    // Lists the players of the match, in their order. The match driver sets it; until then nobody holds a device.
+    std::function<std::vector<DeviceHolder>()> listHolders;
 
     std::vector<std::vector<int>> keySets;
     DeviceList devices;
+
+  private:
+    std::vector<DeviceHolder> holders() const;
+    int joystickCount() const;
+    void scanPlatform();
+    void makeFirstDevices();
+    bool removeLostDevices();
+    bool addNewJoysticks();
+
+    std::shared_ptr<JoystickDriver> joysticks_;
+    bool isInstalled_ = false;
 };
 
 extern std::unique_ptr<ControlsManager> theControlsManager;

@@ -18,8 +18,7 @@ constexpr int looksFrom = replayVersion(0, 95, 5);
 constexpr int cashFrom = replayVersion(1, 0, 2);
 constexpr int mostKingOfTheHillTeams = 4;
 
-void addPlayer(int number, int cash, int team, const PlayerLook& look,
-               const std::vector<std::shared_ptr<Controls>>& devices) {
+void addPlayer(int number, int cash, int team, const PlayerLook& look, const DeviceList& devices) {
     const std::size_t device = players.size() % devices.size();
     auto player = std::make_shared<Player>(number, cash, team, look, devices.at(device));
     players.push_back(player);
@@ -33,6 +32,15 @@ void addPlayer(int number, int cash, int team, const PlayerLook& look,
 void clearMatch() {
     players.clear();
     teams.clear();
+}
+
+std::vector<DeviceHolder> listDeviceHolders() {
+    std::vector<DeviceHolder> holders;
+    holders.reserve(players.size());
+    for (const auto& player : players) {
+        holders.push_back({player->num, player->controls});
+    }
+    return holders;
 }
 
 int quickStartTeamCount() {
@@ -58,7 +66,7 @@ void makeQuickStartTeams() {
     }
 }
 
-void makeQuickStartPlayers(const std::vector<std::shared_ptr<Controls>>& devices) {
+void makeQuickStartPlayers(const DeviceList& devices) {
     const bool inTeams = isTeamMode(gameOptions.gameMode) && !teams.empty();
     const int teamCount = static_cast<int>(teams.size());
     for (int i = 0; i < gameOptions.numPlayers; ++i) {
@@ -66,8 +74,7 @@ void makeQuickStartPlayers(const std::vector<std::shared_ptr<Controls>>& devices
     }
 }
 
-void makeReplayPlayers(const std::vector<PlayerSetup>& setups, int version,
-                       const std::vector<std::shared_ptr<Controls>>& devices) {
+void makeReplayPlayers(const std::vector<PlayerSetup>& setups, int version, const DeviceList& devices) {
     for (int i = 0; i < gameOptions.numPlayers; ++i) {
         PlayerLook look = defaultPlayerLook(i);
         if (version < setupsFrom) {

@@ -4,14 +4,16 @@
 #include <memory>
 #include <vector>
 
+#include "input/controls_manager.h"
 #include "replay/unit/header.h"
 
 namespace vandrel {
 
-class Controls;
-
 // Empties the players and the teams, as a match begins and ends.
 void clearMatch();
+
+// Who holds which device, in the order of the players; those of the computer among them.
+std::vector<DeviceHolder> listDeviceHolders();
 
 // The number of teams that quick start makes for `numPlayers` players in this mode.
 int quickStartTeamCount();
@@ -21,11 +23,10 @@ void makeQuickStartTeams();
 
 // Makes `numPlayers` players. In a quick start of a team mode they go to the teams by turns. Device number i modulo the
 // number of devices belongs to player i.
-void makeQuickStartPlayers(const std::vector<std::shared_ptr<Controls>>& devices);
+void makeQuickStartPlayers(const DeviceList& devices);
 
 // Makes the players of a replay as its header tells; `version` is the replay's.
-void makeReplayPlayers(const std::vector<PlayerSetup>& setups, int version,
-                       const std::vector<std::shared_ptr<Controls>>& devices);
+void makeReplayPlayers(const std::vector<PlayerSetup>& setups, int version, const DeviceList& devices);
 
 // In Snake Hunter alone: two teams made afresh, all humans in the first, the second left to the snakes of the computer.
 void makeSnakeHunterTeams();

@@ -3,7 +3,6 @@
 #include <allegro5/keycodes.h>
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -36,11 +35,6 @@ constexpr int teamsInHeaderFrom = 4;  // the version from which a replay brings 
 
 void logFrameRate() {
     logText(fmt::format("Average FPS: {:.1f}\n", frameRateFigure()));
-}
-
-bool isHeldByPlayer(const Controls& device) {
-    return std::any_of(players.begin(), players.end(),
-                       [&](const auto& player) { return player->controls.get() == &device; });
 }
 
 MatchWorld realMatchWorld() {
@@ -230,7 +224,7 @@ bool Match::play() {
 
 bool play_the_game(bool record, const std::string& replayName, ReplayTestOptions testOptions) {
     onArenaResized = setGameScreenSize;
-    theControlsManager->isHeldByPlayer = isHeldByPlayer;
+    theControlsManager->listHolders = listDeviceHolders;
     return play_the_game(record, replayName, testOptions, realMatchWorld());
 }
 

@@ -16,6 +16,7 @@
 #include "base/random.h"
 #include "base/version.h"
 #include "input/controls_manager.h"
+#include "input/joystick_driver.h"
 #include "input/menu_input.h"
 #include "match/options/game_options.h"
 #include "presentation/bitmaps.h"
@@ -174,7 +175,7 @@ void init(int argc, const char* const* argv) {
     bringUpDisplay(settings);
     loadAssets();
     showSplash();
-    theControlsManager = std::make_unique<ControlsManager>();
+    theControlsManager = std::make_unique<ControlsManager>(std::make_shared<AllegroJoystickDriver>(eventQueue));
     startTicking();
     fillTeamPalettes();
 }

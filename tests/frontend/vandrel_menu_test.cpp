@@ -247,7 +247,7 @@ TEST_F(MenuTest, ControllersSteerAsTheModeAdmits) {
     const auto first = std::make_shared<SteamInputControls>();
     theControlsManager->devices.push_back(first);
     const auto second = addController();
-    theControlsManager->isHeldByPlayer = [&second](const Controls& device) { return &device == second.get(); };
+    theControlsManager->listHolders = [&second] { return std::vector<DeviceHolder>{{0, second}}; };
     struct Case {
         int mode;
         const VandrelMenuLayoutOptions* layout;

@@ -123,7 +123,7 @@ TEST_F(InputTest, InertDevicesAnswerNothing) {
 TEST_F(InputTest, MenuDevicesByModeAndHolder) {
     const auto first = addController();
     const auto second = addController();
-    theControlsManager->isHeldByPlayer = [&second](const Controls& device) { return &device == second.get(); };
+    theControlsManager->listHolders = [&second] { return std::vector<DeviceHolder>{{0, second}}; };
     struct Case {
         int mode;
         bool includeHeld;
@@ -142,9 +142,15 @@ TEST_F(InputTest, MenuDevicesByModeAndHolder) {
     for (const Case& c : cases) {
         EXPECT_EQ(theControlsManager->menuDevices(c.mode, c.includeHeld), c.expected) << c.mode << c.includeHeld;
     }
-    theControlsManager->isHeldByPlayer = [](const Controls&) { return true; };
+    theControlsManager->listHolders = [] {
+        std::vector<DeviceHolder> holders;
+        for (const std::shared_ptr<Controls>& device : theControlsManager->devices) {
+            holders.push_back({0, device});
+        }
+        return holders;
+    };
     EXPECT_EQ(theControlsManager->menuDevices(1, true), (DeviceList{first, first})) << "keyboards do not count as held";
-    theControlsManager->isHeldByPlayer = {};
+    theControlsManager->listHolders = {};
     EXPECT_EQ(theControlsManager->menuDevices(1, true), DeviceList{first}) << "no match";
     theControlsManager->devices.resize(4);
     EXPECT_TRUE(theControlsManager->menuDevices(1, true).empty());
@@ -238,7 +244,9 @@ TEST_F(InputTest, PauseIsEscapeOrAnAdmittedPauseButton) {
     const auto first = addController();
     const auto second = addController();
     bool secondPlays = true;
-    theControlsManager->isHeldByPlayer = [&](const Controls& device) { return secondPlays && &device == second.get(); };
+    theControlsManager->listHolders = [&] {
+        return secondPlays ? std::vector<DeviceHolder>{{0, second}} : std::vector<DeviceHolder>{};
+    };
     EXPECT_FALSE(pauseCheck());
     keys = {ALLEGRO_KEY_ESCAPE};
     for (const int mode : {0, 1, 2}) {
