@@ -25,9 +25,6 @@ constexpr float pi = 3.1415927f;
 constexpr float eighthTurn = pi / 4.0f;
 constexpr float fullTurn = 2.0f * pi;
 
-// The pixel of a sprite about which a particle turns: the middle of a walker's cell.
-constexpr Pixel particlePivot{16, 43};
-
 constexpr int blinkFrames = 120;  // how long a shield or ghost announces its end
 constexpr int trailStep = 5;      // points from one afterimage to the next
 constexpr int firstTrailAlpha = 127;
@@ -40,7 +37,7 @@ void drawSprite(const BitmapWrapper& target, const Sprite& sprite, Pixel positio
 
 void drawParticles(const BitmapWrapper& target, const Player& player) {
     for (const PlayerParticle& particle : player.particles) {
-        drawRotated(target, getSprite(particle.sprite).picture->bitmap, particlePivot.x, particlePivot.y,
+        drawRotated(target, getSprite(particle.sprite).picture->bitmap, spritePivot.x, spritePivot.y,
                     particle.x + halfSquare, particle.y + halfSquare, particle.angle, particle.scale);
     }
 }

@@ -10,6 +10,9 @@
 
 namespace vandrel {
 
+// The pixel of a sprite about which it turns: the middle of a walker's cell.
+inline constexpr Pixel spritePivot{16, 43};
+
 struct Sprite {
     std::shared_ptr<BitmapWrapper> picture;
     Pixel offset;  // of the picture's top-left corner from the player's position

@@ -14,8 +14,6 @@ namespace {
 
 ALLEGRO_BITMAP* currentTarget = nullptr;
 
-constexpr float anglePerRadian = 40.58451f;  // 255 to a full turn
-
 // A display change leaves memory bitmaps behind, which would be drawn slowly ever after. Without a display there is
 // nothing better to be had.
 void heal(ALLEGRO_BITMAP* bitmap) {

@@ -62,9 +62,10 @@ void drawId(const BitmapWrapper& target, BitmapIds id, int x, int y, int flip = 
 void drawTinted(const BitmapWrapper& target, ALLEGRO_BITMAP* bitmap, int x, int y, int red, int green, int blue,
                 int alpha);
 
-// Turned by `angle`, of which 255 make a full turn, and scaled about the source's pixel (`centreX`, `centreY`), which
-// lands at
-// (`x`, `y`).
+// Angles of turned bitmaps: 255 make a full turn.
+inline constexpr float anglePerRadian = 40.58451f;
+
+// Turned by `angle` and scaled about the source's pixel (`centreX`, `centreY`), which lands at (`x`, `y`).
 void drawRotated(const BitmapWrapper& target, ALLEGRO_BITMAP* bitmap, int centreX, int centreY, int x, int y,
                  float angle, float scale, int alpha = opaque);
 void drawRotatedId(const BitmapWrapper& target, BitmapIds id, int centreX, int centreY, int x, int y, float angle,
