@@ -17,9 +17,10 @@ FAST_FORWARD = "F8"
 
 POWERUPS = {1: "extra-bomb", 2: "extra-range", 3: "speed", 7: "shield", 8: "cash", 17: "hidden-shield"}
 
-LAST_SECOND = 50    # of the demonstration, on however slow a machine
+LAST_SECOND = 60    # of the demonstration, on however slow a machine
 FIRST_ROUND = 20    # seconds in which both gather powerups, unless they are quicker
 ENOUGH_KINDS = 5    # of powerups
+TABLE = 3.2         # seconds until the score table shows its new trophies and may be left
 BOMB_STAGES = {30: "bomb", 93: "explosion", 104: "walls-crumbling"}  # by updates since the bomb was laid
 
 
@@ -71,17 +72,36 @@ class Match:
         self._lose()
         self._screen.hold(0.05, FAST_FORWARD)
         while self._next_round():
-            self._album.take(f"round-{self._replay.name.split('.')[0]}")
+            self._album.take(f"round-{self._number()}")
             self._lose()
-        if "Game ended" in self._game.log():
-            self._album.take("the-match-is-decided")
 
     def _goes_on(self):
-        return self._game.running() and time.monotonic() < self._deadline and "Game ended" not in self._game.log()
+        return self._game.running() and time.monotonic() < self._deadline and "Game ended" not in self._game.errors()
+
+    def _times_said(self, line):
+        return self._game.errors().count(line + "\n")
+
+    def _number(self):
+        return self._replay.name.split(".")[0]
+
+    def _leave_table(self):
+        """Shows the score table and leaves it. Behind the last one the cash is counted, where some was taken."""
+        time.sleep(TABLE)
+        self._album.take(f"the-score-after-round-{self._number()}")
+        self._screen.hold(0.05, "space")
+        while not stage.poll(lambda: not self._goes_on() or self._a_round_runs(), 0.5):
+            self._album.take_once("the-cash-is-counted")
+            self._screen.hold(0.05, "space")
+
+    def _a_round_runs(self):
+        return self._times_said("Begin game") > self._times_said("Round over")
 
     def _next_round(self):
         """Waits for the next round to begin; False when there is none."""
         while self._goes_on():
+            if not self._a_round_runs() and self._times_said("Round over") > 0:
+                self._leave_table()
+                continue
             replay = newest_replay(self._stage.data_home)
             if replay is not None and replay != self._replay and self._has_begun(replay):
                 self._replay = replay
@@ -134,7 +154,7 @@ class Match:
                 loser.lay_bomb()
                 started = self._round.updates + 60
             if self._is_dead(loser):
-                self._album.take(f"the-end-of-round-{self._replay.name.split('.')[0]}")
+                self._album.take(f"the-end-of-round-{self._number()}")
                 break
             time.sleep(0.005)
 

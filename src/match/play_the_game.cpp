@@ -11,7 +11,9 @@
 #include "arena/sparks.h"
 #include "base/checked.h"
 #include "frontend/join_screen.h"
+#include "frontend/lootbox_room.h"
 #include "frontend/message_screen.h"
+#include "frontend/trophy_room.h"
 #include "input/controls_manager.h"
 #include "match/match_players.h"
 #include "match/options/automatic_options.h"
@@ -45,6 +47,7 @@ MatchWorld realMatchWorld() {
     world.makeMusic = makeMatchMusic;
     world.setUpdateRate = [](int rate) { setUpdateRate(rate, gameOptions); };
     world.showRandomness = showRandomness;
+    world.roundEnd = {trophyRoom, lootboxRoom};
     world.showNoSpace = [](const std::string& text) {
         setGameScreenSlot(menuScreenSlot);
         msgScreen({text}, ALLEGRO_KEY_ENTER, noCancelKey);
@@ -187,7 +190,7 @@ Match::RoundResult Match::endRound(Game& game, const RoundEnding& ending, RoundB
     }
     bool matchOver = false;
     if (!ending.replayEnded && !testOptions_.skipRoundEnd) {
-        matchOver = finishRound(game);
+        matchOver = finishRound(game, recorded.name(), world_.roundEnd);
     }
     return matchOver || isPlayback() ? RoundResult::MatchOver : RoundResult::NextRound;
 }

@@ -8,6 +8,7 @@
 
 #include "input/controls_manager.h"
 #include "match/frame_loop.h"
+#include "match/round_transitions.h"
 
 namespace vandrel {
 
@@ -24,6 +25,7 @@ struct MatchWorld {
     std::function<void(int rate)> setUpdateRate;
     // Shows that the randomness has risen.
     std::function<void(Game& game)> showRandomness;
+    RoundEndScreens roundEnd;
     // Tells that the arena is too small for the players.
     std::function<void(const std::string& text)> showNoSpace;
 };

@@ -11,6 +11,7 @@
 #include "presentation/toasts_drawing.h"
 #include "shell/frame_pump.h"
 #include "shell/game_screen.h"
+#include "shell/switches.h"
 
 namespace vandrel {
 
@@ -82,15 +83,22 @@ std::vector<ScoringEntity> scoreRound(const Winners& winners) {
     return scorePlayers(std::get<PlayerWinners>(winners));
 }
 
-bool finishRound(const Game& game) {
-    const std::vector<ScoringEntity> entities = scoreRound(game.getWinners());
-    bringBackForTheTable();
+bool finishRound(const Game& game, const std::string& replayFile, const RoundEndScreens& screens) {
+    std::vector<ScoringEntity> entities = scoreRound(game.getWinners());
     int maxScore = 0;
+    bool noWinner = true;
     for (const ScoringEntity& entity : entities) {
         maxScore = std::max(maxScore, entity.score);
+        noWinner = noWinner && entity.score == entity.previousScore;
     }
-    removeAISnakes();
-    return maxScore >= gameOptions.winsNeeded;
+    bringBackForTheTable();
+    screens.trophyRoom(std::move(entities), noWinner, diagnostic ? replayFile : "");
+    removeAISnakes();  // not earlier: they stand on the table too
+    const bool matchOver = maxScore >= gameOptions.winsNeeded;
+    if (matchOver && lootboxesEnabled) {
+        screens.lootboxRoom();
+    }
+    return matchOver;
 }
 
 void incrementRandomness(Game& game, const std::function<void(Game& game)>& show) {

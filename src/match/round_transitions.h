@@ -22,9 +22,18 @@ struct ScoringEntity {
 // Adds the round to the tally of its winners and gives the score table: all teams, or all players, in their order.
 std::vector<ScoringEntity> scoreRound(const Winners& winners);
 
-// Scores the round, removes the snakes of the computer, and says whether the match is over: somebody has `winsNeeded`
-// rounds.
-bool finishRound(const Game& game);
+// The screens that close a round and a match.
+struct RoundEndScreens {
+    // Shows the score table, to a gong or, with `noWinner`, to groans; `text` stands in its corner.
+    std::function<void(std::vector<ScoringEntity> entities, bool noWinner, const std::string& text)> trophyRoom;
+    // Counts the cash of all matches, where there is more of it than before.
+    std::function<void()> lootboxRoom;
+};
+
+// Scores the round, shows the score table with the whole field on it, removes the snakes of the computer, and says
+// whether the match is over: somebody has `winsNeeded` rounds. Then the cash is counted. `replayFile` is the path of
+// the round's recording, shown with the table in diagnostic mode; empty where there is none.
+bool finishRound(const Game& game, const std::string& replayFile, const RoundEndScreens& screens);
 
 // May raise `randomness` by one, and then has it shown. Called between two rounds of a match whose randomness can still
 // rise; draws once from `globalGenerator` in any case.

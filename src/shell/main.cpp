@@ -1,4 +1,5 @@
 #include "arena/team.h"
+#include "frontend/lootbox_room.h"
 #include "frontend/menu.h"
 #include "players/player.h"
 #include "shell/guard.h"
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
     logPrintf("Player: %zu, Team: %zu\n", sizeof(Player), sizeof(Team));
     runGuarded([argc, argv] {
         init(argc, argv);
+        lootboxRoom();
         menu();
     });
     shutDown();

@@ -79,6 +79,14 @@ class GameTestCase(unittest.TestCase):
 
         return self.wait_for_picture(game, lasts, what)
 
+    def press_until(self, key, condition, what):
+        """Presses a key again and again until the condition holds."""
+        def pressed():
+            self.screen.hold(0.05, key)
+            return stage.poll(condition, 0.5)
+
+        stage.wait_for(pressed, what)
+
     def leave(self, game):
         """Leaves the game as a player does, and gives its exit code."""
         self.screen.press("Escape")

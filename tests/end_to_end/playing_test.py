@@ -54,7 +54,8 @@ class Playing(ArenaTestCase):
         self.screen.press(FIRST_PLAYER["bomb"])
         self.wait_for_picture(game, lambda picture: square_differs(picture, arena, start), "the bomb")
         self.screen.release(FIRST_PLAYER["bomb"])
-        stage.wait_for(lambda: game.errors().count("Begin game\n") == 2, "the next round to begin")
+        game.wait_for_line("Round over\n")
+        self.press_until("space", lambda: game.errors().count("Begin game\n") == 2, "the next round to begin")
         self.assertEqual(self.leave(game), 0)
 
     def round_with_a_wall_to_crumble(self):

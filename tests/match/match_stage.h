@@ -45,6 +45,14 @@ class CountedMusic final : public Music {
     MusicCalls& calls_;
 };
 
+// A score table that was shown: the scores of its rows before and after the round.
+struct ShownTable {
+    std::vector<int> before;
+    std::vector<int> after;
+    bool noWinner;
+    std::string text;
+};
+
 // A match on the smallest arena with nothing in it, two players, and nothing to be drawn by the automatic options.
 inline GameOptions bareMatchOptions() {
     GameOptions options;
@@ -81,6 +89,8 @@ class MatchStage : public testing::Test {
         gameOptions = optionsBefore_;
         reaches = Reaches{};
         fastForward = false;
+        diagnostic = false;
+        lootboxesEnabled = true;
         advanceLimit = 0;
         frameCounter = 0;
     }
@@ -139,6 +149,15 @@ class MatchStage : public testing::Test {
             rates.push_back(rate);
         };
         world.showRandomness = [this](Game& /*game*/) { shownRandomness.push_back(gameOptions.randomness); };
+        world.roundEnd.trophyRoom = [this](const std::vector<ScoringEntity>& entities, bool noWinner,
+                                           const std::string& text) {
+            ShownTable& table = tables.emplace_back(ShownTable{{}, {}, noWinner, text});
+            for (const ScoringEntity& entity : entities) {
+                table.before.push_back(entity.previousScore);
+                table.after.push_back(entity.score);
+            }
+        };
+        world.roundEnd.lootboxRoom = [this] { tablesAtLootboxes.push_back(tables.size()); };
         world.showNoSpace = [this](const std::string& text) { noSpaceTexts.push_back(text); };
         return world;
     }
@@ -150,7 +169,9 @@ class MatchStage : public testing::Test {
     std::vector<int> rates;  // every update rate that was set
     std::vector<int> shownRandomness;
     std::vector<std::string> noSpaceTexts;
-    test::ScratchDirectory folder;  // holds the replays
+    std::vector<ShownTable> tables;
+    std::vector<std::size_t> tablesAtLootboxes;  // how many tables had been shown at each count of the cash
+    test::ScratchDirectory folder;               // holds the replays
 
   private:
     static constexpr int mostUpdates = 50'000;

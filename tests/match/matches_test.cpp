@@ -51,6 +51,11 @@ TEST_F(MatchTest, GoesOnUntilSomebodyHasTheWinsNeeded) {
     letDie({{1}, {0}, {1}});
     EXPECT_FALSE(play()) << "it ran to its end";
     EXPECT_THAT(winsAtStart, ElementsAre(Wins{0, 0}, Wins{1, 0}, Wins{1, 1}));
+    ASSERT_EQ(tables.size(), 3U);
+    EXPECT_EQ(tables[2].before, (Wins{1, 1}));
+    EXPECT_EQ(tables[2].after, (Wins{2, 1}));
+    EXPECT_FALSE(tables[2].noWinner);
+    EXPECT_THAT(tablesAtLootboxes, ElementsAre(3U)) << "once, behind the last table";
     EXPECT_EQ(timesLogged("New game\n"), 1);
     EXPECT_EQ(timesLogged("New round; randomness 0\n"), 3);
     EXPECT_EQ(timesLogged("Round over\n"), 3);
@@ -61,8 +66,25 @@ TEST_F(MatchTest, GoesOnUntilSomebodyHasTheWinsNeeded) {
 
 TEST_F(MatchTest, ARoundThatNobodyWinsIsPlayedAgain) {
     letDie({{0, 1}, {0, 1}, {0}});
+    lootboxesEnabled = false;
     EXPECT_FALSE(play());
     EXPECT_THAT(winsAtStart, ElementsAre(Wins{0, 0}, Wins{0, 0}, Wins{0, 0}));
+    ASSERT_EQ(tables.size(), 3U);
+    EXPECT_TRUE(tables[0].noWinner);
+    EXPECT_TRUE(tables[1].noWinner);
+    EXPECT_FALSE(tables[2].noWinner);
+    EXPECT_THAT(tablesAtLootboxes, IsEmpty()) << "loot boxes are switched off";
+}
+
+TEST_F(MatchTest, TheTableNamesTheRecordingInDiagnosticModeOnly) {
+    for (const bool told : {false, true}) {
+        diagnostic = told;
+        logLines().clear();
+        letDie({{1}});
+        EXPECT_FALSE(play(true));
+        ASSERT_EQ(tables.size(), told ? 2U : 1U);
+        EXPECT_EQ(timesLogged("Creating replay: " + tables.back().text + "\n"), told ? 1 : 0);
+    }
 }
 
 TEST_F(MatchTest, SharedWinsEndTheMatchTogetherAndATieOfAllIsADraw) {
@@ -104,6 +126,8 @@ TEST_F(MatchTest, QuittingLeavesTheMatchWithoutScoring) {
     EXPECT_TRUE(play());
     EXPECT_EQ(timesLogged("Quit\n"), 1);
     EXPECT_EQ(timesLogged("Round over\n"), 0);
+    EXPECT_THAT(tables, IsEmpty());
+    EXPECT_THAT(tablesAtLootboxes, IsEmpty());
     EXPECT_EQ(rounds(), 1);
     EXPECT_EQ(timesLogged("Game ended\n"), 1);
 }
@@ -342,7 +366,7 @@ TEST(Randomness, RisesOnceInFiveRoundsOrThreeInFive) {
     }
 }
 
-TEST(FinishRound, BringsEverybodyBackAndSendsTheSnakesAway) {
+TEST(FinishRound, BringsEverybodyBackForTheTableAndSendsTheSnakesAwayBehindIt) {
     for (const GameMode mode : {GameMode::SnakeHunter, GameMode::Everything}) {
         RoundSetup setup;
         setup.mode = mode;
@@ -356,10 +380,25 @@ TEST(FinishRound, BringsEverybodyBackAndSendsTheSnakesAway) {
         human->remoteActive = true;
         human->crawling = true;
         gameOptions.winsNeeded = 1;
-        EXPECT_EQ(finishRound(round.game()), mode == GameMode::SnakeHunter) << "the snakes win their own mode";
-        EXPECT_FALSE(human->dead);
-        EXPECT_FALSE(human->remoteActive);
-        EXPECT_EQ(human->crawling, mode != GameMode::Everything);
+        int shown = 0;
+        const auto trophyRoom = [&](const std::vector<ScoringEntity>& entities, bool noWinner, const std::string&) {
+            ++shown;
+            EXPECT_EQ(noWinner, mode != GameMode::SnakeHunter);
+            EXPECT_THAT(entities.back().players, ElementsAre(snake));
+            EXPECT_THAT(players, ElementsAre(human, snake));
+            EXPECT_FALSE(human->dead);
+            EXPECT_FALSE(human->remoteActive);
+            EXPECT_EQ(human->crawling, mode != GameMode::Everything);
+        };
+        int counted = 0;
+        const auto lootboxRoom = [&] {
+            ++counted;
+            EXPECT_THAT(players, ElementsAre(human));
+        };
+        const bool snakesWin = mode == GameMode::SnakeHunter;
+        EXPECT_EQ(finishRound(round.game(), "", {trophyRoom, lootboxRoom}), snakesWin) << "in their own mode";
+        EXPECT_EQ(shown, 1);
+        EXPECT_EQ(counted, snakesWin ? 1 : 0);
         EXPECT_THAT(players, ElementsAre(human));
         EXPECT_EQ(teams[1].members.size(), mode == GameMode::SnakeHunter ? 0U : 1U);
     }

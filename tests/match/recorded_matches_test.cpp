@@ -142,6 +142,12 @@ TEST_F(RecordedMatchTest, PlaysItsReplayToTheSameEndAtItsOwnRate) {
     EXPECT_EQ(gameOptions.gameMode, GameMode::Deathmatch);
     EXPECT_EQ(gameOptions.numPlayers, 5);
     EXPECT_EQ(replayFiles(), before) << "playing a replay records nothing";
+    ASSERT_EQ(tables.size(), 2U) << "one when it was recorded, one now";
+    EXPECT_EQ(tables[1].after, tables[0].after);
+
+    onUpdate = nullptr;
+    EXPECT_FALSE(play(true, replay, {.fastForward = false, .skipRoundEnd = true}));
+    EXPECT_EQ(tables.size(), 2U);
 }
 
 TEST_F(RecordedMatchTest, RequiresThatTheProofIsUsedUpAtTheEndOfAReplay) {
