@@ -104,7 +104,7 @@ std::string JoystickControls::buttonText(ControlInput input) const {
         return {};
     }
     const int index = driverIndex(input).value();
-    const std::string name = driver_->buttonName(handle_, index);
+    std::string name = driver_->buttonName(handle_, index);
     std::vector<std::string> words;
     boost::split(words, name, boost::is_any_of(" "));
     if (words.size() < 2) {
