@@ -58,8 +58,9 @@ void Player::update(const PackagedReplayData& replayData, Game* currentGame, boo
     if (needRecord) {
         recordInput(replayData, {});
     }
-    // In the update that meets the end mark somebody may still come back, of which no line was written.
-    const bool beyondRecords = game != nullptr && game->endMarkSeen;
+    // Updates in which nobody lives leave no records, so only the text tells whether one that begins at the end mark
+    // was recorded. In one that was not somebody may still come back, of which no line was written.
+    const bool beyondRecords = game != nullptr && game->endMarkSeen && hasVerifyTextEnded(replayData);
     if (verifyEnabled && !beyondRecords && (!dead || replayData.isOlderThan(livingOnlyFrom))) {
         verifyPosition(replayData);
     }

@@ -31,6 +31,8 @@ void startRound(Game& game) {
 
 namespace {
 
+constexpr int mostUpdatesBehindRecords = 20'000;  // more than the longest wait for a return
+
 // The path, if there is a file that can be opened. Says what the matter is in words that the streams do not have.
 const std::string& checkedPath(const std::string& path) {
     if (std::filesystem::is_directory(path)) {
@@ -69,11 +71,22 @@ bool HeadlessPlayback::step() {
     game_->update(roundOver, replayEnded, nullptr);
     ++frameCounter;
     if (replayEnded) {
-        end_ = data_.input->eof() ? PlaybackEnd::CutShort : PlaybackEnd::EndMark;
+        if (data_.input->eof()) {
+            end_ = PlaybackEnd::CutShort;
+        } else if (!mayGoOnBehindRecords()) {
+            end_ = PlaybackEnd::EndMark;
+        }
     } else if (roundOver) {
         end_ = PlaybackEnd::RoundOver;
     }
     return end_ == PlaybackEnd::Running;
+}
+
+// A round may be quit while everybody is dead. Its last updates left no records, and a playback that ended at the mark
+// would leave a return of which the text tells unproved.
+bool HeadlessPlayback::mayGoOnBehindRecords() {
+    const bool markIsUnread = data_.input->rdbuf()->sgetc() == replayEndMark;
+    return markIsUnread && ++updatesBehindRecords_ < mostUpdatesBehindRecords && !hasVerifyTextEnded(data_);
 }
 
 void HeadlessPlayback::requireAllPlayed() {

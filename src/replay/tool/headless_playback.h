@@ -46,6 +46,8 @@ class HeadlessPlayback {
     long long position() const;
 
   private:
+    bool mayGoOnBehindRecords();
+
     struct OptionsBackup {
         GameOptions options = gameOptions;
         ~OptionsBackup() { gameOptions = options; }
@@ -56,6 +58,7 @@ class HeadlessPlayback {
     PackagedReplayData data_;
     std::unique_ptr<Game> game_;
     PlaybackEnd end_ = PlaybackEnd::Running;
+    int updatesBehindRecords_ = 0;
 };
 
 // What the rules want done between the set-up of a round and its first update.

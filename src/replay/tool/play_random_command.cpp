@@ -154,7 +154,8 @@ int runPlayRandom(const Words& words) {
 const Command playRandomCommand{
     "play-random", runPlayRandom,
     "play-random [OPTION...] OUT       record a round of players who press at random\n\n"
-    "Writes the replay OUT and its verification file. The same options give the same round.\n\n"
+    "Writes the replay OUT and its verification file. The same options give the same round, but for\n"
+    "snakes of the computer: how far they think ahead hangs on the machine's speed.\n\n"
     "  --mode NAME         Classic, CTF, \"Battle Royale\", KotH, \"Snake Hunter\", Deathmatch or Everything\n"
     "  --players N         1 to 100; 2 if not given\n"
     "  --arena NAME        Tiny, Classic, Normal, Large, ..., or Auto\n"

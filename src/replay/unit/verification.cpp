@@ -1,9 +1,12 @@
 #include "replay/unit/verification.h"
 
+#include <fmt/compile.h>
 #include <fmt/format.h>
 
+#include <cctype>
 #include <istream>
 #include <string>
+#include <string_view>
 
 #include "base/version.h"
 #include "replay/unit/proof.h"
@@ -19,6 +22,9 @@ constexpr int wideCaptureScoresFrom = replayVersion(1, 0, 10);
 constexpr int snakeLinesFrom = replayVersion(0, 95, 4);
 constexpr int unprovedScoresFrom = replayVersion(1, 0, 9);
 constexpr int unprovedScoresBelow = replayVersion(1, 0, 12);
+
+// No other line begins with its letter.
+constexpr std::string_view endLine = "END";
 
 // A number that is missing or no number reads as 0, and then differs or fails the test of the stream.
 int readNumber(std::istream& text) {
@@ -63,11 +69,11 @@ void writeText(std::ostream* text, const fmt::memory_buffer& lines) {
 void writePosition(std::ostream* text, const VerifiedPlayer& player) {
     fmt::memory_buffer lines;
     const auto out = std::back_inserter(lines);
-    fmt::format_to(out, "{}\n{}\n{}\n", player.num, player.x, player.y);
+    fmt::format_to(out, FMT_COMPILE("{}\n{}\n{}\n"), player.num, player.x, player.y);
     if (player.snakeLength > 0) {
-        fmt::format_to(out, "{}", player.snakeLength);
+        fmt::format_to(out, FMT_COMPILE("{}"), player.snakeLength);
         for (const auto& part : player.parts) {
-            fmt::format_to(out, " {} {}", std::get<0>(part), std::get<1>(part));
+            fmt::format_to(out, FMT_COMPILE(" {} {}"), std::get<0>(part), std::get<1>(part));
         }
         lines.push_back('\n');
     }
@@ -120,13 +126,25 @@ void verifyCapture(const PackagedReplayData& replayData, int team, int score) {
     }
 }
 
+bool hasVerifyTextEnded(const PackagedReplayData& replayData) {
+    if (replayData.inputVerify == nullptr) {
+        return true;
+    }
+    std::istream& text = *replayData.inputVerify;
+    while (std::isspace(text.rdbuf()->sgetc()) != 0) {
+        text.rdbuf()->sbumpc();
+    }
+    const int next = text.rdbuf()->sgetc();
+    return next == std::istream::traits_type::eof() || next == endLine.front();
+}
+
 void verifyEnd(const PackagedReplayData& replayData) {
     if (replayData.inputVerify == nullptr) {
         return;
     }
     std::string end;
     *replayData.inputVerify >> end;
-    VANDREL_CHECK(end == "END", "end == \"END\"");
+    VANDREL_CHECK(end == endLine, "end == \"END\"");
 }
 
 }  // namespace vandrel

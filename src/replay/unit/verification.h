@@ -28,6 +28,9 @@ void verifyPosition(const PackagedReplayData& replayData, const VerifiedPlayer& 
 // first, then the verification text.
 void verifyCapture(const PackagedReplayData& replayData, int team, int score);
 
+// Whether the verification text holds no more lines of players and captures; true where there is no text.
+bool hasVerifyTextEnded(const PackagedReplayData& replayData);
+
 // Requires that the verification text ends here; what is left over or missing is a failed assertion. Nothing where
 // there is no text. To be called where the round came to its own end.
 void verifyEnd(const PackagedReplayData& replayData);
