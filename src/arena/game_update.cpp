@@ -9,6 +9,7 @@
 #include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
+#include "replay/unit/round_writer.h"
 #include "replay/unit/streams.h"
 #include "shell/log.h"
 
@@ -74,6 +75,9 @@ void Game::update(bool& roundOver, bool& replayEnded, const std::shared_ptr<Musi
     updateRespawningWalls();
     updateToasts();
     roundOver = updateRoundEnd(music);
+    if (replay.writer != nullptr) {
+        replay.writer->endUpdate();
+    }
 }
 
 // The round goes on in full after its condition was first met, and a later change of the condition has no effect.

@@ -73,6 +73,8 @@ RoundBeingRecorded::RoundBeingRecorded(const std::string& name) : record_(!name.
     grid_squares_x = size.width;
     grid_squares_y = size.height;
     writeReplayHeader(file_);
+    flushWritten(&file_);
+    writer_.emplace(file_, verify_);
 }
 
 PackagedReplayData RoundBeingRecorded::data() {
@@ -80,8 +82,12 @@ PackagedReplayData RoundBeingRecorded::data() {
     data.recording = record_;
     data.filename = name_;
     if (record_) {
-        data.output = &file_;
-        data.outputVerify = verifyEnabled ? &verify_ : nullptr;
+        data.output = &writer_->replay();
+        data.writer = &*writer_;
+    }
+    if (record_ && verifyEnabled) {
+        // One that could not be opened says so itself.
+        data.outputVerify = verify_.is_open() ? &writer_->verify() : &verify_;
     }
     return data;
 }
@@ -90,8 +96,8 @@ void RoundBeingRecorded::finish() {
     if (!record_) {
         return;
     }
-    writeByte(&file_, replayEndMark);
-    flushWritten(&file_);
+    writeByte(&writer_->replay(), replayEndMark);
+    writer_->finish();
     file_.close();
     if (verifyEnabled) {
         finishVerifyFile(name_, verify_);

@@ -3,11 +3,13 @@
 
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "replay/unit/header.h"
 #include "replay/unit/packaged_replay_data.h"
+#include "replay/unit/round_writer.h"
 
 namespace vandrel {
 
@@ -53,6 +55,7 @@ class RoundBeingRecorded {
     std::string name_;
     std::ofstream file_;
     std::ofstream verify_;
+    std::optional<RoundWriter> writer_;
 };
 
 }  // namespace vandrel

@@ -1,23 +1,16 @@
 // The bytes of records, the texts where there are none, and what the file system can do to a recording.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <sstream>
 
 #include "arena/arena.h"
 #include "base/version.h"
-#include "match/options/game_options.h"
-#include "replay/tool/headless_playback.h"
-#include "replay/tool/headless_recording.h"
 #include "replay/unit/input_record.h"
 #include "replay/unit/streams.h"
 #include "replay/unit/verification.h"
 #include "replay_bytes.h"
-#include "shell/frame_counter.h"
 #include "shell/log.h"
 
 namespace vandrel {
@@ -150,41 +143,6 @@ TEST(Capture, isComparedAsEachReleaseRecordedIt) {
         << "not compared in three releases";
     EXPECT_EQ(captureFailure(replayVersion(1, 0, 11), int32(7), "CTFSCORE 1 7"), "");
     EXPECT_EQ(captureFailure(replayVersion(1, 0, 12), int32(7), good), score);
-}
-
-// Kills a recording process between two frames, and gives the frames that its file still plays.
-TEST(Recording, ofAProcessThatIsKilledPlaysToItsLastFrame) {
-    setDebugOutput(nullptr);
-    const ScratchFolder folder;
-    const std::string path = folder.file("1.replay");
-    constexpr int lastFrame = 50;
-    const pid_t process = fork();
-    if (process == 0) {
-        gameOptions = GameOptions{};
-        gameOptions.arenaSize = 1;
-        RandomRoundSettings settings;
-        settings.path = path;
-        HeadlessRecording round(settings);
-        for (int frame = 0; frame < lastFrame; ++frame) {
-            round.step();
-        }
-        kill(getpid(), SIGKILL);
-    }
-    int status = 0;
-    waitpid(process, &status, 0);
-    ASSERT_TRUE(WIFSIGNALED(status));
-
-    static std::string log;
-    log.clear();
-    setDebugOutput([](const char* line, std::size_t length) { log.append(line, length); });
-    HeadlessPlayback playback(path);
-    EXPECT_TRUE(playback.isVerified()) << "the plain text is there";
-    while (playback.step()) {
-    }
-    setDebugOutput(nullptr);
-    EXPECT_EQ(playback.end(), PlaybackEnd::CutShort);
-    EXPECT_EQ(static_cast<int>(frameCounter), lastFrame + 1);
-    EXPECT_NE(log.find("EOF (peek replayEnd)\n"), std::string::npos);
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 
 namespace vandrel {
 
+class RoundWriter;
+
 struct PackagedReplayData {
     std::istream* input = nullptr;   // the replay being played; null while none is open
     std::ostream* output = nullptr;  // the replay being written; null while none is open
@@ -17,6 +19,7 @@ struct PackagedReplayData {
     bool recording = false;
     std::shared_ptr<std::istream> inputVerify;  // the verification text to compare with; null if there is none
     std::ostream* outputVerify = nullptr;       // the verification text being written; null while none is open
+    RoundWriter* writer = nullptr;              // what hands both of these to the system; null where nothing does
     std::string filename;
 
     // Whether the rules of before `gate` hold: a file of an older version is being played. A new game always plays by

@@ -90,8 +90,11 @@ void readMarker(std::istream* stream, std::string_view text) {
 }
 
 void writeByte(std::ostream* stream, int value) {
+    using Traits = std::ostream::traits_type;
     const char byte = static_cast<char>(static_cast<std::uint8_t>(value));
-    writeBytes(stream, &byte, 1, value);
+    if (stream == nullptr || !stream->good() || Traits::eq_int_type(stream->rdbuf()->sputc(byte), Traits::eof())) {
+        failToWrite(stream, value);
+    }
 }
 
 void writeBool(std::ostream* stream, bool value) {
