@@ -68,9 +68,9 @@ TEST_F(CommandLineTest, SwitchesAreTakenInOrder) {
 TEST_F(CommandLineTest, AnUnknownSwitchEndsTheProcessWithABox) {
     // Compared in full, with regard to case.
     for (const char* argument : {"/DIAG", "/diag ", "diag", "", "--help"}) {
+        const ScratchDirectory data;  // outside, as the process that ends there clears nothing away
         EXPECT_EXIT(
             {
-                const ScratchDirectory data;
                 openLog();
                 setMessageBox([](const std::string& text, const std::string& heading) {
                     std::fprintf(stderr, "box <%s> <%s>\n", heading.c_str(), text.c_str());

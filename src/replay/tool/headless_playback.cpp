@@ -93,7 +93,8 @@ void HeadlessPlayback::requireAllPlayed() {
     std::istream& input = *data_.input;
     // A playback that met the end mark may have taken it or only seen it; no record ends with such a byte.
     input.seekg(-1, std::ios::cur);
-    if (readByte(&input) != replayEndMark && readByte(&input) != replayEndMark) {
+    const int last = readByte(&input);
+    if (last != replayEndMark && readByte(&input) != replayEndMark) {
         throw std::runtime_error("the round ended where the replay has no end mark");
     }
     const std::streamoff end = input.tellg();

@@ -62,6 +62,7 @@ std::string teamsText(const std::vector<PlayerSetup>& setups) {
 
 std::string playersText(const std::vector<PlayerSetup>& setups) {
     std::vector<std::string> texts;
+    texts.reserve(setups.size());
     for (const PlayerSetup& setup : setups) {
         texts.push_back(fmt::format(
             "    {{\"number\": {}, \"team\": {}, \"skin\": {}, \"lookReserved\": {}, \"colour\": {}, "
