@@ -7,9 +7,11 @@
 #include <cerrno>
 #include <charconv>
 #include <fstream>
+#include <functional>
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
+#include <tuple>
 
 #include "base/version.h"
 #include "replay/unit/option_record.h"
@@ -67,7 +69,8 @@ void addReplay(std::vector<ReplayInfo>& replays, const std::filesystem::director
     const std::string name = entry.path().filename().string();
     std::vector<std::string> parts;
     boost::split(parts, name, [](char c) { return c == '.'; });
-    if (parts.size() < 2 || parts.back() != "replay") {
+    std::error_code error;
+    if (parts.size() < 2 || parts.back() != "replay" || !entry.is_regular_file(error)) {
         return;
     }
     ReplayInfo info;
@@ -93,15 +96,16 @@ std::vector<ReplayInfo> getAllReplays(bool readHeaders) {
         // The list of what could be walked is what there is.
     }
     // Times are asked for once: a file that is written meanwhile must not upset the order.
-    std::vector<std::pair<std::filesystem::file_time_type, std::size_t>> order;
+    std::vector<std::tuple<std::filesystem::file_time_type, int, std::size_t>> order;
+    order.reserve(replays.size());
     for (std::size_t i = 0; i < replays.size(); ++i) {
         std::error_code error;
-        order.emplace_back(std::filesystem::last_write_time(replays[i].path, error), i);
+        order.emplace_back(replays[i].entry->last_write_time(error), replays[i].number, i);
     }
-    std::sort(order.begin(), order.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::sort(order.begin(), order.end(), std::greater<>());
     std::vector<ReplayInfo> sorted;
     sorted.reserve(replays.size());
-    for (const auto& [time, index] : order) {
+    for (const auto& [time, number, index] : order) {
         sorted.push_back(std::move(replays[index]));
     }
     return sorted;

@@ -21,9 +21,9 @@ struct ReplayInfo {
     std::vector<std::string> errors;  // the lines to show; none for a file that can be played
 };
 
-// Every file under `replaysDir()` whose name ends in ".replay", newest first; with `readHeaders` each with what its
-// header says or why it cannot be read. A folder that cannot be walked ends the list early. Throws
-// std::invalid_argument or std::out_of_range for a name that does not begin with a number.
+// Every regular file under `replaysDir()` whose name ends in ".replay", newest first and of equal times the higher
+// number; with `readHeaders` each with what its header says or why it cannot be read. A folder that cannot be walked
+// ends the list early. Throws std::invalid_argument or std::out_of_range for a name that does not begin with a number.
 std::vector<ReplayInfo> getAllReplays(bool readHeaders);
 
 // The path of the next recording: the highest number in use plus one, and this build's version.
