@@ -48,8 +48,13 @@ void VandrelMenu::draw(const BitmapWrapper& target) const {
 
 void VandrelMenu::drawEntry(const BitmapWrapper& target, const CmdButtonBase& entry, bool highlighted) const {
     const int y = entry.y + scrollY_;
+    const int bottom = entry.bottom + scrollY_;
+    // A list may have thousands of rows, of which a page shows a few.
+    if (bottom < options_->top || y >= target.height()) {
+        return;
+    }
     if (highlighted) {
-        drawFilledRectangle(target, 0, y, target.width() - 1, entry.bottom + scrollY_, toColour(highlightColour));
+        drawFilledRectangle(target, 0, y, target.width() - 1, bottom, toColour(highlightColour));
     }
     if (options_->textMode != textModeOn) {
         return;
