@@ -199,7 +199,7 @@ TEST_F(ChooseBonusTest, FollowsTheWeightsOfTheLevel) {
         {Bonus::Bomb, 70}, {Bonus::Range, 40},    {Bonus::Speed, 50},         {Bonus::Controller, 5},
         {Bonus::Cash, 20}, {Bonus::Superman, 10}, {Bonus::QuestionShield, 8}, {Bonus::QuestionFastIgnition, 4}};
     for (const auto& [bonus, weight] : weights) {
-        EXPECT_NEAR(counts[static_cast<std::size_t>(bonus)], draws * weight / sum, draws * 0.002) << bonus;
+        EXPECT_NEAR(counts[static_cast<std::size_t>(bonus)], draws * weight / sum, draws * 0.003) << bonus;
     }
     EXPECT_EQ(counts[Bonus::None], 0);
     EXPECT_EQ(counts[Bonus::Death], 0);
