@@ -1,10 +1,10 @@
-// The way into the game after start-up.
+// The game's front door: the main menu and everything below it.
 #pragma once
 
 namespace vandrel {
 
-// Plays matches of the first two key sets, in the mode and by the options that the process holds, until one is quit;
-// then the process may end.
+// Shows the menus until the player quits to the desktop. A first run asks about phobias before. Matches and replays run
+// in here, from the row that starts them.
 void menu();
 
 }  // namespace vandrel

@@ -1,4 +1,4 @@
-// What happens when somebody presses pause during a match.
+// What a pause shows, during a match and before it.
 #pragma once
 
 #include <memory>
@@ -7,8 +7,9 @@
 
 namespace vandrel {
 
-// True when the match is to be quit, which is what a pause means. `music` is the match's, or null; `inJoinScreen` tells
-// the lobby from a round.
-bool pauseMenu(const std::shared_ptr<Music>& music, bool inJoinScreen);
+// Shows the menu over what is on the screen until the game goes on; true when the match is to be quit. Then nobody
+// holds a bomb button any more. `music` is the match's, or null, and kept alive. With `dim` what lies behind is
+// darkened.
+bool pauseMenu(const std::shared_ptr<Music>& music, bool dim);
 
 }  // namespace vandrel

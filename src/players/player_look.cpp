@@ -60,7 +60,7 @@ bool anyHuman(Test test) {
                        [&](const auto& player) { return !player->isAI && test(*player); });
 }
 
-const std::vector<RGB>& currentPalette() {
+std::vector<RGB>& currentPalette() {
     const RGB background = backgroundColour(accessibility.bgcol);
     if (palette.colours.size() >= paletteSize && palette.background == background && !palette.invalid) {
         return palette.colours;
@@ -78,6 +78,10 @@ const std::vector<RGB>& currentPalette() {
 }  // namespace
 
 std::vector<RGB> playerColours() {
+    return currentPalette();
+}
+
+std::vector<RGB>& editablePlayerColours() {
     return currentPalette();
 }
 

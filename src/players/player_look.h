@@ -18,6 +18,9 @@ inline constexpr int skinCount = 13;
 // The hundred colours of players, far enough from the background in use; the same on every run for that background.
 std::vector<RGB> playerColours();
 
+// The list itself, for whoever edits single colours. They stay until the palette is built anew.
+std::vector<RGB>& editablePlayerColours();
+
 // Has the palette built anew at its next use.
 void invalidatePlayerColours();
 

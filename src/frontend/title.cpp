@@ -1,0 +1,21 @@
+#include "frontend/title.h"
+
+#include "base/colour.h"
+#include "presentation/bitmaps.h"
+#include "presentation/drawing.h"
+#include "presentation/text.h"
+
+namespace vandrel {
+
+void drawTitle(const BitmapWrapper& target) {
+    drawId(target, BitmapIds::VLogo3, target.width() / 2 - bitmapWidth(BitmapIds::VLogo3) / 2, 0);
+}
+
+void drawTitleWithCaption(const BitmapWrapper& target) {
+    constexpr int distance = 10;  // pixels
+    drawTitle(target);
+    drawText(target, FontId::Font30, target.width() / 2, bitmapHeight(BitmapIds::VLogo3) + distance,
+             toColour({255, 255, 255}), "20th anniversary edition!", alignCentre);
+}
+
+}  // namespace vandrel
