@@ -6,6 +6,7 @@ import time
 
 import stage
 from key_player import KeyPlayer
+from menu_keys import MenuKeys
 from round_in_progress import RoundInProgress, newest_replay
 
 PICTURES = stage.REPOSITORY / "demo-pictures"
@@ -172,9 +173,13 @@ def run(program, arguments):
         # A box that reports a failure would wait for somebody to answer it; its text stands on standard error as well.
         game = the_stage.start(program, arguments, environment={"GDK_BACKEND": "none"})
         album = Album(the_stage.screen)
+        menus = MenuKeys(the_stage.screen, game)
         if show_splash(the_stage.screen, game, album):
+            show_menus(menus, album)
             Match(the_stage, game, album, deadline).play()
-        leave(the_stage.screen, game)
+        the_stage.screen.release_all()
+        menus.quit_game()
+        stage.poll(lambda: not game.running(), 10)
         album.write()
         if game.running():
             print("The game did not end when it was asked to.")
@@ -196,12 +201,10 @@ def show_splash(screen, game, album):
     return game.running()
 
 
-def leave(screen, game):
-    """Leaves the game as a player does."""
-    screen.release_all()
-    for _ in range(5):
-        if not game.running():
-            return
-        screen.press("Escape")
-        stage.poll(lambda: not game.running(), 1)
-        screen.release("Escape")
+def show_menus(menus, album):
+    """Goes through the menus and the lobby as the first players do, into the first round."""
+    menus.wait_for_first_run()
+    album.take("first-run")
+    menus.answer_first_run()
+    album.take("main-menu")
+    menus.join_match([FIRST["bomb"], SECOND["bomb"]], lambda: album.take_once("lobby"))

@@ -3,7 +3,7 @@ standard error and in the log."""
 
 import unittest
 
-from game_test_case import NO_BOXES, GameTestCase
+from game_test_case import FIRST_PLAYER, NO_BOXES, SECOND_PLAYER, GameTestCase
 
 # One fault in the working directory each: what is done to which file, and the text that the player gets.
 SPOILED_FILES = [
@@ -106,7 +106,8 @@ class BadInput(GameTestCase):
 
     def assert_plays(self, game):
         """The game gets as far as a round and is left in good order."""
-        game.wait_for_line("Begin game\n")
+        self.menus(game).answer_first_run()
+        self.menus(game).join_match([FIRST_PLAYER["bomb"], SECOND_PLAYER["bomb"]])
         self.assertEqual(self.leave(game), 0, game.errors())
         self.assertNotIn("An exception", game.errors())
 

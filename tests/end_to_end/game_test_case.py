@@ -12,11 +12,12 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
 
 import stage  # noqa: E402  (the path above leads to it)
+from menu_keys import MenuKeys  # noqa: E402
 
 PROGRAM = Path(os.environ.get("VANDREL_PROGRAM", stage.REPOSITORY / "build" / "release" / "bin" / "vandrel"))
 
-# The round that opens without menus has an arena of this many squares. A screen of just that size shows it pixel by
-# pixel.
+# The round that a quick start opens, with the options as they are, has an arena of this many squares. A screen of just
+# that size shows it pixel by pixel.
 SQUARES = (27, 15)
 SQUARE = 32
 ARENA_SCREEN = (SQUARES[0] * SQUARE, SQUARES[1] * SQUARE)
@@ -28,6 +29,10 @@ SECOND_PLAYER = {"up": "w", "down": "s", "left": "a", "right": "d", "bomb": "Con
 # A variable that the dialogs of the platform look at: with it no box opens that somebody would have to answer, and the
 # text of a box stands on standard error alone.
 NO_BOXES = {"GDK_BACKEND": "none"}
+
+
+# In a configuration: the first run's question has been asked, and the option of a quick start is shown.
+KNOWN_PLAYERS = "[lootbox]\ncatsEnabled=1\n[other]\nshowQuickStartOption=1\n"
 
 
 class GameTestCase(unittest.TestCase):
@@ -89,11 +94,12 @@ class GameTestCase(unittest.TestCase):
 
     def leave(self, game):
         """Leaves the game as a player does, and gives its exit code."""
-        self.screen.press("Escape")
-        try:
-            return game.wait_for_end()
-        finally:
-            self.screen.release("Escape")
+        self.menus(game).quit_game()
+        return game.wait_for_end()
+
+    def menus(self, game):
+        """The keys of the menus of a running game."""
+        return MenuKeys(self.screen, game)
 
 
 class ArenaTestCase(GameTestCase):
@@ -102,14 +108,16 @@ class ArenaTestCase(GameTestCase):
     SCREEN = ARENA_SCREEN
 
     def start_round(self):
-        """Starts the game without music and waits until the arena stands on the screen. Gives the game and that
-        picture."""
-        self.configure("[sound]\nsoundEffectsVolume=100\nmusicVolume=0\n")
+        """Starts the game without music, and in it a match, and waits until the arena stands on the screen. Gives the
+        game and that picture."""
+        self.configure("[sound]\nsoundEffectsVolume=100\nmusicVolume=0\n" + KNOWN_PLAYERS)
         game = self.start()
-        splash = self.wait_for_picture(game, has_light, "the splash")
-        game.wait_for_line("Begin game\n")
+        menus = self.menus(game)
+        menus.wait_for_main_menu()
+        menu = self.screen.picture()
+        menus.start_match()
         game.wait_for_line(f"{SQUARES[0]}x{SQUARES[1]}; {ARENA_SCREEN[0]}x{ARENA_SCREEN[1]}\n")
-        arena = self.wait_for_picture(game, lambda picture: square_differs(picture, splash, (0, 0)), "the arena")
+        arena = self.wait_for_picture(game, lambda picture: square_differs(picture, menu, (0, 0)), "the arena")
         return game, self.settled(game, arena)
 
     def settled(self, game, before):

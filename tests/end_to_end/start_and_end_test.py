@@ -2,7 +2,7 @@
 
 import unittest
 
-from game_test_case import GameTestCase, has_light
+from game_test_case import FIRST_PLAYER, KNOWN_PLAYERS, SECOND_PLAYER, GameTestCase, has_light
 
 FIRST_CONFIGURATION = """[video]
 colourdepth=32
@@ -30,7 +30,8 @@ LOG_OF_A_RUN = [
     "Vandrel 1.1.2 Compiled on ", "Getting config settings\n", "Installing sound\n",
     "Detected desktop resolution: 1280x720\n", "Available gfx modes:\n", "Changing video mode to fullscreen window\n",
     "Setting display flags\n", "Adapter: -1\n", "Create display: 1280 720\n", "Register event sources\n",
-    "Changed video mode to fullscreen window, ", "Begin game\n", "Shut down sound\n", "Destroying shaders\n",
+    "Changed video mode to fullscreen window, ", "New game\n", "playerJoinScreen\n", "Begin game\n", "Quit\n", "Game ended\n",
+    "Shut down sound\n", "Destroying shaders\n",
     "Destroying bitmaps\n", "Closing log file\n",
 ]
 
@@ -57,7 +58,8 @@ class StartAndEnd(GameTestCase):
         self.assertGreaterEqual(top, 280)
         self.assertLess(bottom, 280 + 80, "one line, its top 80 pixels above the middle")
 
-        game.wait_for_line("Begin game\n")
+        self.menus(game).answer_first_run()
+        self.menus(game).join_match([FIRST_PLAYER["bomb"], SECOND_PLAYER["bomb"]])
         self.assertEqual(self.leave(game), 0)
         self.assert_in_order(LOG_OF_A_RUN, game.log())
         self.assertTrue(game.log().endswith("Closing log file\n"))
@@ -70,17 +72,25 @@ class StartAndEnd(GameTestCase):
         self.assertEqual(game.log().count("Log file opened\n"), 1)
 
     def test_a_round_is_left_by_the_close_button(self):
-        game = self.start()
-        game.wait_for_line("Begin game\n")
+        game = self.start_match()
         self.screen.close_window("Vandrel")
-        self.assertEqual(game.wait_for_end(), 0)
+        game.wait_for_line("Game ended\n")
+        self.assertEqual(self.leave(game), 0)
         self.assertTrue(game.log().endswith("Closing log file\n"))
 
     def test_the_switch_that_limits_the_frames_ends_the_round(self):
-        game = self.start("/fastForward", "/advanceLimit", "300")
-        self.assertEqual(game.wait_for_end(), 0)
+        game = self.start_match("/fastForward", "/advanceLimit", "300")
+        game.wait_for_line("Game ended\n")
+        self.assertEqual(self.leave(game), 0)
         self.assertIn("\n300: ", game.log())
         self.assertTrue(game.log().endswith("Closing log file\n"))
+
+    def start_match(self, *arguments):
+        self.configure(KNOWN_PLAYERS)
+        game = self.start(*arguments)
+        self.menus(game).wait_for_main_menu()
+        self.menus(game).start_match()
+        return game
 
     def assert_in_order(self, lines, text):
         at = 0

@@ -58,9 +58,13 @@ class StartGame(GameTestCase):
             self.addCleanup(stage.end, run)
             log = self.stage.data_home / "vandrel" / "vandrel.log"
             words = Path(said.name)
-            stage.wait_for(lambda: "Begin game\n" in words.read_text() or run.poll() is not None, "the round")
-            self.screen.press("Escape")
-            stage.wait_for(lambda: run.poll() is not None, "the end of the game")
+            stage.wait_for(lambda: "Changed video mode" in words.read_text() or run.poll() is not None, "the display")
+
+            def left_by_escape():
+                self.screen.hold(0.2, "Escape")
+                return stage.poll(lambda: run.poll() is not None, 0.5)
+
+            stage.wait_for(left_by_escape, "the end of the game")
         self.assertEqual(run.returncode, 0, words.read_text())
         self.assertNotIn("An exception", log.read_text())
         if not glob.glob("/dev/snd/pcm*p"):
