@@ -128,8 +128,9 @@ class MenuKeys:
         said = self._game.errors()
         return said.rfind("Begin game\n") > said.rfind("Game ended\n")
 
-    def quit_match(self):
-        """From a round or the lobby back to the menus, by the last row of the pause."""
+    def quit_match(self, *started_from):
+        """From a round or the lobby back to the menus, by the last row of the pause. They highlight the row that the
+        match was started from, one of those given, or that of the first mode."""
         self._screen.press("Escape")
         try:
             first, end = stage.wait_for(self.highlight, "the pause menu")
@@ -146,7 +147,8 @@ class MenuKeys:
                 break
             self.step("Up")
         self.enter()
-        stage.wait_for(lambda: self.is_on_row(CLASSIC) or self.is_on_row(CLASSIC_SCROLLED), "the menu behind the match")
+        rows = started_from or (CLASSIC, CLASSIC_SCROLLED)
+        stage.wait_for(lambda: any(map(self.is_on_row, rows)), "the menu behind the match")
 
     def quit_game(self):
         """Leaves a match, then every open menu by Escape, the last of them the main menu, which ends the game."""
