@@ -36,7 +36,7 @@ struct ContactLine {
     int aboveBottom;
 };
 
-constexpr ContactLine contactLines[] = {{"quillmere.example", 100}, {"@QuillmereIndustries", 50}};
+constexpr ContactLine contactLines[] = {{"www.quillmere.example", 100}, {"@quillmere", 50}};
 
 // Escape on the keyboard also leaves the root, which ends the game; a controller's button leaves all menus but the
 // root.
