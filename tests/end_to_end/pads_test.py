@@ -7,8 +7,7 @@ from game_test_case import ARENA_SCREEN, PROGRAM, SQUARE, ArenaTestCase, square_
 
 LIBRARY = PROGRAM.parents[1] / "tests" / "end_to_end" / "libtest_pads.so"
 
-LEFT_STICK, DIRECTIONAL_PAD = 0, 3
-BOMB, START = 0, 7
+LEFT_STICK = 0
 
 
 class Pads:
@@ -37,19 +36,19 @@ class PadsTest(ArenaTestCase):
     def start(self, *arguments, **options):
         return super().start(*arguments, environment=self.pads.environment, **options)
 
-    def steer(self, game, stick, position, square, before):
-        """Steers the first pad sideways until its player stands on a square."""
-        self.pads.act("axis", 0, stick, 0, position)
+    def steer(self, game, position, square, before):
+        """Moves the left stick of the first pad sideways until its player stands on a square."""
+        self.pads.act("axis", 0, LEFT_STICK, 0, position)
         try:
             return self.wait_for_picture(game, lambda picture: square_differs(picture, before, square),
                                          f"the player of the pad on the square {square}")
         finally:
-            self.pads.act("axis", 0, stick, 0, 0)
+            self.pads.act("axis", 0, LEFT_STICK, 0, 0)
 
     def test_a_pad_is_pulled_in_a_match_and_comes_back(self):
         game, arena = self.start_round()
         self.assertIn("New player: 1, controls: Test pad\n", game.errors())
-        there = self.steer(game, LEFT_STICK, 1, (3, 1), arena)
+        there = self.steer(game, 1, (3, 1), arena)
 
         self.pads.act("pull", 0)
         game.wait_for_line("1 controls invalidated\n")
