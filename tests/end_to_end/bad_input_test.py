@@ -92,6 +92,23 @@ class BadInput(GameTestCase):
         self.assertRegex(game.errors(), r"An exception occurred:\n.*create_directory.*\nPlease send /dev/null/home/vandrel/"
                                         r"vandrel.log to support@quillmere.example\n")
 
+    def test_a_prize_without_its_picture_ends_the_game_and_stays_won(self):
+        copy = self.copy_of_working_directory()
+        next((copy / "images").rglob("Alien1.png")).unlink()
+        self.configure("[lootbox]\ncatsEnabled=1\nlootboxPoints=9\n")
+        game = self.start(working_directory=copy, environment=NO_BOXES)
+        menus = self.menus(game)
+        menus.wait_for_main_menu()
+        for row, name in ((2, "the settings"), (6, "the debug options"), (3, "the points")):
+            menus.go_to_row(row, name)
+            menus.step("Right" if row == 3 else "Return")  # a point more wins the first prize
+        menus.go_to_row(4, "the way to the room")
+        self.screen.hold(0.3, "Return")
+        self.assert_ends_with_report(game, ["Image not found: Alien1"])
+        configuration = game.configuration_file.read_text()
+        self.assertIn("\nAlien1=1\n", configuration)
+        self.assertIn("\nlootboxPoints=9\n", configuration)
+
     def assert_ends_with_report(self, game, texts):
         """The game ends by itself, having told one of `texts` in the three lines of a failure, and shuts down."""
         self.assertEqual(game.wait_for_end(), 0, game.errors())
