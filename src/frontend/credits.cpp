@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "base/colour.h"
+#include "frontend/title.h"
 #include "input/menu_input.h"
-#include "presentation/bitmaps.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/frame_pump.h"
@@ -103,7 +103,7 @@ struct WanderingSeal {
 void drawPage(const WanderingSeal& seal) {
     const int middle = screen->width() / 2;
     clearToBlack(*screen);
-    drawId(*screen, BitmapIds::VLogo3, middle - bitmapWidth(BitmapIds::VLogo3) / 2, 0);
+    drawTitle(*screen);
     seal.draw();
     int y = firstRowY;
     for (const auto& [style, text] : rows) {
