@@ -24,8 +24,8 @@ class Lobby {
     Lobby(const Lobby&) = delete;
     Lobby& operator=(const Lobby&) = delete;
 
-    // Makes arena, spots and markers for these devices, as at first so whenever a device comes or goes. Players keep
-    // their places, but for those who would stand outside the new arena: they are put on their spots. Bombs are gone.
+    // Makes arena, spots and markers for these devices: at first, and again whenever a device comes or goes. Players
+    // keep their places, but for those who would stand outside the new arena: they are put on their spots. Bombs go.
     void setUp(const DeviceList& devices);
 
     // The two parts of one update, in this order; the first is left out while the lobby is in pause. The first starts
