@@ -1,6 +1,8 @@
 """A player in front of a menu: presses keys and looks at the screen for what they did, so that a slow machine only takes
 longer. Used by the demonstration and by tests/end_to_end."""
 
+import time
+
 import stage
 
 MENU_SIZE = (1920, 1080)  # of the menus' screen, which the display shows scaled, in the middle
@@ -50,13 +52,15 @@ class MenuKeys:
         scale, above = placement(picture)
         return found is not None and abs((found[0] - above) / scale - (top + row * step)) < step / 4
 
-    def step(self, key):
-        """Holds a key until something has changed in the menu: one step of the selection, of a value, or of the way
-        through the menus. A key that is held on since the last step is not seen, so it is tried anew now and then."""
-        before = self._look()
+    def step(self, key, look=None):
+        """Holds a key until something has changed in the menu, by `look` if what changes is not in the usual part of
+        it: one step of the selection, of a value, or of the way through the menus. A key that is held on since the last
+        step is not seen, so it is tried anew now and then."""
+        look = look or self.look
+        before = look()
 
         def changed():
-            return not self._game.running() or self._look() != before
+            return not self._game.running() or look() != before
 
         def tried():
             self._screen.press(key)
@@ -66,6 +70,18 @@ class MenuKeys:
                 self._screen.release(key)
 
         stage.wait_for(tried, f"the key {key} to be seen", interval=0.1)
+        self._settle(look)
+
+    @staticmethod
+    def _settle(look):
+        """Waits until nothing changes any more: the key was perhaps held for a step too many, or a menu goes from its
+        heading to its first row. A screen with something that moves is not waited for."""
+        def stands():
+            before = look()
+            time.sleep(0.07)  # some frames
+            return look() == before
+
+        stage.poll(stands, 1)
 
     def go_to_row(self, row, what, key="Down"):
         """Steps until the row is highlighted; a key that was held for too long only makes the way longer."""
@@ -159,7 +175,7 @@ class MenuKeys:
                 return
             self.step("Escape")
 
-    def _look(self):
+    def look(self):
         """What tells one state of a menu from another: all but the figure at the left and the line of figures that may
         stand at the top."""
         picture = self._screen.picture()

@@ -56,7 +56,7 @@ class PackageTest(game_test_case.GameTestCase):
         # From a folder where there is nothing: the launcher finds the pictures and the sounds.
         game = self.stage.start(self.root / "usr/games/vandrel", working_directory=self.stage.folder)
         self.wait_for_picture(game, game_test_case.has_light, "the splash")
-        game.wait_for_line("Begin game\n")
+        self.menus(game).wait_for_first_run()
         game.close()
 
         self.dpkg("--purge", "vandrel")
