@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "base/checked.h"
-#include "input/menu_input.h"
 #include "input/pad_numbering.h"
 #include "shell/log.h"
 
@@ -47,6 +46,8 @@ const PadInput& padInput(ControlInput input) {
 }
 
 }  // namespace
+
+bool xinputDpadEnabled = true;
 
 JoystickControls::JoystickControls(std::shared_ptr<const JoystickDriver> driver, JoystickHandle handle, bool quiet)
     : driver_(std::move(driver)), handle_(handle) {

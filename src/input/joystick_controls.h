@@ -12,6 +12,9 @@
 
 namespace vandrel {
 
+// Whether the controllers' directional buttons steer beside their sticks. A setting without a menu entry.
+extern bool xinputDpadEnabled;
+
 class JoystickControls final : public Controls {
   public:
     // A null handle is no pad: it is never connected and never pressed. Logs the new device unless `quiet`.

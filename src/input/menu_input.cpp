@@ -63,7 +63,6 @@ bool isHeld(int keycode, Query query, int controlMode, bool includeHeldControlle
 }  // namespace
 
 int menuControlMode = MenuControlMode::KeyboardAndAnyController;
-bool xinputDpadEnabled = true;
 
 bool menuKeyDown(int keycode, int controlMode, bool includeHeldController, bool escapeUsesPause) {
     return isHeld(keycode, buttonFor(keycode, escapeUsesPause), controlMode, includeHeldController);

@@ -8,9 +8,6 @@ namespace vandrel {
 // The configured mode, a value of MenuControlMode.
 extern int menuControlMode;
 
-// Whether the controllers' directional buttons steer beside their sticks. A setting without a menu entry.
-extern bool xinputDpadEnabled;
-
 // Whether the key, or what stands for it on an admitted controller, is held. With `escapeUsesPause` the pause button
 // stands for Escape.
 bool menuKeyDown(int keycode, int controlMode, bool includeHeldController, bool escapeUsesPause);

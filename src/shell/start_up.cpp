@@ -16,6 +16,7 @@
 #include "base/random.h"
 #include "base/version.h"
 #include "input/controls_manager.h"
+#include "input/joystick_controls.h"
 #include "input/joystick_driver.h"
 #include "input/menu_input.h"
 #include "match/options/game_options.h"

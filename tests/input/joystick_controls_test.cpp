@@ -12,7 +12,6 @@
 #include <string>
 #include <vector>
 
-#include "input/menu_input.h"
 #include "input/pad_numbering.h"
 #include "shell/shell_test_tools.h"
 #include "support/fake_joysticks.h"
