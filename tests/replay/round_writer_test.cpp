@@ -55,11 +55,12 @@ TEST(Recording, OfAProcessThatIsKilledPlaysToItsLastWholeFrame) {
             recordUntilKilled(path);
         }
         const std::uintmax_t setUp = 600;  // bytes; a frame of two players has four
+        int status = 0;
         while (sizeOf(path) < setUp + 200) {
+            ASSERT_EQ(waitpid(process, &status, WNOHANG), 0) << "it records until it is killed";
             std::this_thread::sleep_for(1ms);
         }
         kill(process, SIGKILL);
-        int status = 0;
         waitpid(process, &status, 0);
         ASSERT_TRUE(WIFSIGNALED(status));
 
@@ -86,7 +87,10 @@ class FullDisk {
         limit.rlim_cur = bytes;
         setrlimit(RLIMIT_FSIZE, &limit);
     }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signalBefore_);
+    }
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
 
@@ -119,6 +123,32 @@ TEST(Recording, OnAFullDiskEndsTheRoundAndLeavesWhatFits) {
     EXPECT_NE(failure, "") << "the round goes on without being written";
     EXPECT_LE(std::max(sizeOf(settings.path), sizeOf(settings.path + ".verify")), 2000U);
     EXPECT_EQ(sizeOf(settings.path + ".verifyZ"), 0U);
+}
+
+// What the game is told once the disk is full, where each update holds that many numbers.
+std::string fullDiskFailure(int numbersInAnUpdate) {
+    const ScratchFolder folder;
+    std::ofstream replay(folder.file("1.replay"), std::ios::binary);
+    replay.exceptions(std::ios::eofbit | std::ios::failbit | std::ios::badbit);
+    std::ofstream text;
+    const FullDisk disk(2000);
+    RoundWriter writer(replay, text);
+    try {
+        while (true) {
+            for (int i = 0; i < numbersInAnUpdate; ++i) {
+                writeInt(&writer.replay(), i);
+            }
+            writer.endUpdate();
+        }
+    } catch (const std::ios_base::failure& failure) {
+        return failure.what();
+    }
+}
+
+TEST(RoundWriter, GivesTheFilesOwnFailureAtTheEndOfAnUpdateAndToWhoWaitsForRoomInOne) {
+    const std::string own = fullDiskFailure(1);
+    EXPECT_NE(own, "");
+    EXPECT_EQ(fullDiskFailure(2'000'000), own);
 }
 
 TEST(RoundWriter, TakesAnUpdateOfAnySizeAndKeepsItsOrder) {

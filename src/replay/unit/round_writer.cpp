@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <string_view>
+#include <utility>
 
 #include "replay/unit/streams.h"
 
@@ -27,9 +28,7 @@ std::uint64_t HandOverBuffer::waitForRoom(std::uint64_t begin) {
         if (held < ring_.size()) {
             return ring_.size() - held;
         }
-        if (closed_.load(std::memory_order_acquire)) {
-            return 0;
-        }
+        requireOpen();
         if (begin - published_.load(std::memory_order_relaxed) == ring_.size()) {
             publish();
         }
@@ -40,9 +39,6 @@ std::uint64_t HandOverBuffer::waitForRoom(std::uint64_t begin) {
 HandOverBuffer::int_type HandOverBuffer::overflow(int_type next) {
     const std::uint64_t begin = position();
     const std::uint64_t room = waitForRoom(begin);
-    if (room == 0) {
-        return traits_type::eof();
-    }
     const std::size_t offset = begin % ring_.size();
     const std::size_t length = std::min<std::size_t>(room, ring_.size() - offset);
     windowBegin_ = begin;
@@ -66,22 +62,21 @@ void HandOverBuffer::writeOut(std::uint64_t end) {
     written_.store(end, std::memory_order_release);
 }
 
+void HandOverBuffer::close(std::exception_ptr failure) {
+    failure_ = std::move(failure);
+    closed_.store(true, std::memory_order_release);
+}
+
 RoundWriter::RoundWriter(std::ofstream& replay, std::ofstream& verify)
     : replay_(replay), verify_(verify), replayStream_(&replay_), verifyStream_(&verify_), thread_([this] { run(); }) {}
 
 RoundWriter::~RoundWriter() {
-    verify_.publish();
-    replay_.publish();
-    stop();
+    writeRest();
 }
 
 void RoundWriter::finish() {
-    verify_.publish();
-    replay_.publish();
-    stop();
-    if (failed_.load(std::memory_order_acquire)) {
-        rethrow();
-    }
+    writeRest();
+    replay_.requireOpen();
 }
 
 void RoundWriter::run() {
@@ -92,10 +87,8 @@ void RoundWriter::run() {
         }
         writeOut();
     } catch (...) {
-        failure_ = std::current_exception();
-        failed_.store(true, std::memory_order_release);
-        verify_.close();
-        replay_.close();
+        verify_.close(std::current_exception());
+        replay_.close(std::current_exception());
     }
 }
 
@@ -105,15 +98,13 @@ void RoundWriter::writeOut() {
     replay_.writeOut(replayEnd);
 }
 
-void RoundWriter::stop() {
+void RoundWriter::writeRest() {
+    verify_.publish();
+    replay_.publish();
     stop_.store(true, std::memory_order_release);
     if (thread_.joinable()) {
         thread_.join();
     }
-}
-
-void RoundWriter::rethrow() {
-    std::rethrow_exception(failure_);
 }
 
 }  // namespace vandrel

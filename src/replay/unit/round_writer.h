@@ -1,7 +1,7 @@
 // The files of a round that is being recorded, written beside the game: what the game hands over costs it a copy, and a
 // thread of this writer's own hands it to the system, in whole updates and every millisecond. A process that is killed
-// or crashes leaves files that hold every update but those of the last millisecond, and each of them whole; one that
-// ends by a failure leaves them all.
+// or crashes leaves files that hold every update but those since the thread last looked, and each of them whole; one
+// that ends by a failure leaves them all.
 #pragma once
 
 #include <atomic>
@@ -27,8 +27,15 @@ class HandOverBuffer final : public std::streambuf {
     std::uint64_t published() const { return published_.load(std::memory_order_acquire); }
     // Writes up to there and hands it to the system. Throws what the file throws.
     void writeOut(std::uint64_t end);
-    // Nothing more is taken; who waits for room is let go.
-    void close() { closed_.store(true, std::memory_order_release); }
+    // Nothing more is written. Whoever waits for room, or asks, is thrown `failure`.
+    void close(std::exception_ptr failure);
+
+    // The game's side. Throws what the buffer was closed with.
+    void requireOpen() const {
+        if (closed_.load(std::memory_order_acquire)) [[unlikely]] {
+            std::rethrow_exception(failure_);
+        }
+    }
 
   protected:
     int_type overflow(int_type next) override;
@@ -44,6 +51,7 @@ class HandOverBuffer final : public std::streambuf {
     std::uint64_t windowBegin_ = 0;  // where the part of the ring lies that is being filled
     std::atomic<std::uint64_t> published_{0};
     std::atomic<std::uint64_t> written_{0};
+    std::exception_ptr failure_;  // set before `closed_`
     std::atomic<bool> closed_{false};
 };
 
@@ -57,7 +65,7 @@ class RoundWriter {
     RoundWriter(const RoundWriter&) = delete;
     RoundWriter& operator=(const RoundWriter&) = delete;
 
-    // Where the game writes. Full or broken files show in `endUpdate`.
+    // Where the game writes. Full or broken files show in `endUpdate`, or where there is no room left in between.
     std::ostream& replay() { return replayStream_; }
     std::ostream& verify() { return verifyStream_; }
 
@@ -66,9 +74,7 @@ class RoundWriter {
         // The text first: a replay that is ahead of its text could not be proved, the other way round it can.
         verify_.publish();
         replay_.publish();
-        if (failed_.load(std::memory_order_acquire)) [[unlikely]] {
-            rethrow();
-        }
+        replay_.requireOpen();
     }
 
     // Writes all there is, and leaves the files to the caller. Throws what that throws.
@@ -77,16 +83,13 @@ class RoundWriter {
   private:
     void run();
     void writeOut();
-    void stop();
-    [[noreturn]] void rethrow();
+    void writeRest();
 
     HandOverBuffer replay_;
     HandOverBuffer verify_;
     std::ostream replayStream_;
     std::ostream verifyStream_;
     std::atomic<bool> stop_{false};
-    std::atomic<bool> failed_{false};
-    std::exception_ptr failure_;  // set before `failed_`
     std::thread thread_;
 };
 
