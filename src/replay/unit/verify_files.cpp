@@ -39,6 +39,9 @@ std::string readWholeFile(const std::string& path) {
 
 void writeWholeFile(const std::string& path, const std::string& bytes) {
     std::ofstream file(path, std::ios::out | std::ios::binary);
+    if (!file.is_open()) {  // the text of a failed write would hold all the bytes
+        throw std::runtime_error(fmt::format("File not open for writing: {}", path));
+    }
     writeMarker(&file, bytes);
     flushWritten(&file);
 }
