@@ -90,7 +90,7 @@ TEST_F(DevicesTest, PadsStandBeforeTheKeyboardsAndLaterOnesBehind) {
     EXPECT_FALSE(manager.poll());
 }
 
-TEST_F(DevicesTest, AScanBesidesTheSticksOfAPadThatHasNoNames) {
+TEST_F(DevicesTest, AScanOfAPadWithoutNamesLogsItsEmptyRows) {
     driver->plug({.name = "", .sticks = {{.name = "", .axes = {}}}, .buttons = {}});
     const CapturedLog log;
     const ControlsManager manager(driver);
