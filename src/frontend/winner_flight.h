@@ -7,10 +7,10 @@ namespace vandrel {
 struct WinnerFlight {
     float x = 0.0f;  // of the figure's pivot; both are 0 until the figure was seen on the table
     float y = 0.0f;
-    float velocityX = 0.0f;  // a update
+    float velocityX = 0.0f;  // an update
     float velocityY = 0.0f;
     float rotation = 0.0f;
-    float spin = 0.0f;  // radians a update; 0 between two turns
+    float spin = 0.0f;  // radians an update; 0 between two turns
 
     bool hasLeft() const { return x != 0.0f || y != 0.0f; }
     // Where the figure stands on the table, told by who draws it; counts while the flight has no place.
