@@ -38,17 +38,10 @@ struct ContactLine {
 
 constexpr ContactLine contactLines[] = {{"www.quillmere.example", 100}, {"@quillmere", 50}};
 
-// Escape on the keyboard also leaves the root, which ends the game; a controller's button leaves all menus but the
-// root.
-void leaveMenus(MenuStack& stack) {
-    const bool escape = menuKeyPressed(ALLEGRO_KEY_ESCAPE, menuControlMode, false);
-    if (stack.backRequested || (escape && (stack.menus.size() >= 2 || isKeyDown(ALLEGRO_KEY_ESCAPE)))) {
-        stack.pop();
-    }
-}
-
 void update(MenuContext& context, TitleFigure& figure) {
-    leaveMenus(context.stack);
+    const bool escape = menuKeyPressed(ALLEGRO_KEY_ESCAPE, menuControlMode, false);
+    // The key also leaves the root, which ends the game; a controller's button leaves all menus but the root.
+    context.stack.takeLeave(escape, isKeyDown(ALLEGRO_KEY_ESCAPE));
     gameOptions.numPlayers = std::max(gameOptions.numPlayers, leastPlayers);
     if (!context.stack.menus.empty()) {
         context.stack.update(screen->height() - 1);

@@ -24,6 +24,12 @@ void MenuStack::pop() {
     }
 }
 
+void MenuStack::takeLeave(bool escape, bool escapeLeavesRoot) {
+    if (backRequested || (escape && (menus.size() >= 2 || escapeLeavesRoot))) {
+        pop();
+    }
+}
+
 void MenuStack::update(int bottomLimit) {
     const std::shared_ptr<VandrelMenu> shown = menus.back();
     shown->update(bottomLimit);

@@ -18,6 +18,8 @@ struct MenuStack {
     void push(std::shared_ptr<VandrelMenu> menu) { menus.push_back(std::move(menu)); }
     // Lets the last menu go, which runs its `onClose`, and takes the request back. Nothing happens without a menu.
     void pop();
+    // Lets the last menu go if "Back" or Escape asks for it; at the root Escape counts only with `escapeLeavesRoot`.
+    void takeLeave(bool escape, bool escapeLeavesRoot);
     // `update` of the last menu, which may push others meanwhile.
     void update(int bottomLimit);
 };

@@ -79,9 +79,7 @@ bool pauseMenu(const std::shared_ptr<Music>& /*music*/, bool dim) {
     stack.push(root);
     const auto update = [&] {
         const bool escape = menuKeyPressed(ALLEGRO_KEY_ESCAPE, menuControlMode, layout->includeHeldController);
-        if (stack.backRequested || (escape && stack.menus.size() >= 2)) {
-            stack.pop();
-        }
+        stack.takeLeave(escape, false);
         stack.update(screen->height() - 1);
     };
     const auto draw = [&] {

@@ -292,7 +292,9 @@ TEST_F(MenuTest, AStackLetsItsLastMenuGoOnce) {
     stack.pop();
     EXPECT_FALSE(stack.backRequested);
     EXPECT_EQ(closed, "b");
-    stack.pop();
+    stack.takeLeave(true, false);
+    EXPECT_EQ(closed, "b") << "a controller does not leave the root";
+    stack.takeLeave(true, true);
     stack.pop();
     EXPECT_EQ(closed, "ba") << "without a menu nothing happens";
 }

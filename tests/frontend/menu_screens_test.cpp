@@ -1,0 +1,102 @@
+// The rows of the settings, and what becomes of their values.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+#include "frontend/accessibility_menus.h"
+#include "frontend/screen_stage.h"
+#include "frontend/settings_menus.h"
+#include "players/player_look.h"
+#include "shell/accessibility.h"
+#include "shell/config.h"
+#include "shell/switches.h"
+
+namespace vandrel {
+namespace {
+
+class MenuScreens : public ScreenStage {
+  protected:
+    MenuScreens() {
+        openConfig("vandrel.cfg");
+        accessibility = AccessibilitySettings{};
+        fillTeamPalettes();
+    }
+
+    ~MenuScreens() override {
+        accessibility = AccessibilitySettings{};
+        fillTeamPalettes();
+        invalidatePlayerColours();
+        menuControlMode = MenuControlMode::KeyboardAndAnyController;
+    }
+
+    static CmdButtonBase& row(const VandrelMenu& menu, const std::string& text) {
+        const auto found = std::ranges::find_if(menu.entries(), [&](const auto& entry) {
+            return !entry->isHeading() && entry->text().substr(0, text.size()) == text;
+        });
+        if (found == menu.entries().end()) {
+            throw std::runtime_error("no row " + text);
+        }
+        return **found;
+    }
+
+    MenuContext context{1920};
+};
+
+TEST_F(MenuScreens, TheFirstRunIsMarkedByItsQuestion) {
+    EXPECT_FALSE(hasConfigKey("lootbox", "catsEnabled"));
+    const auto first = phobiasMenu(context, true);
+    EXPECT_TRUE(hasConfigKey("lootbox", "catsEnabled"));
+    EXPECT_EQ(first->entries().back()->text(), "Done");
+    EXPECT_EQ(phobiasMenu(context, false)->entries().back()->text(), "Back");
+    const bool before = dogsEnabled.get();
+    row(*first, "Dogs: ").press();
+    EXPECT_EQ(row(*first, "Dogs: ").text(), before ? "Dogs: Off" : "Dogs: On");
+    EXPECT_EQ(getConfigBool("lootbox", "dogsEnabled", before), !before);
+    row(*first, "Dogs: ").press();
+}
+
+TEST_F(MenuScreens, ValuesOfTheFileThatNoMenuOffersHaveANameToo) {
+    accessibility.bgcol = 9;
+    menuControlMode = 7;
+    EXPECT_EQ(row(*accessibilityMenu(context), "In-game").valueText(), "Black");
+    EXPECT_EQ(row(*settingsMenu(context), "Menu control mode").valueText(), "Keyboard only");
+    setConfigInt("accessibility", "bgcol", -3);
+    const auto menu = accessibilityMenu(context);
+    row(*menu, "Load").press();
+    EXPECT_EQ(row(*menu, "In-game").valueText(), "Black");
+}
+
+TEST_F(MenuScreens, AccessibilityIsSavedLoadedAndReset) {
+    const auto menu = accessibilityMenu(context);
+    for (int i = 0; i < 13; ++i) {
+        row(*menu, "Ghost opacity").increase();
+    }
+    EXPECT_EQ(accessibility.ghostOpacity, 16) << "from 64 by sixteens to 240, then round by 0";
+    row(*menu, "Recolour bombs").press();
+    row(*menu, "Save").press();
+    row(*menu, "Recolour bombs").press();
+    row(*menu, "Load").press();
+    EXPECT_TRUE(accessibility.recolourBombs);
+
+    const RGB player = playerColours().front();
+    editablePlayerColours().front() = {1, 2, 3};
+    teamColours.front() = {1, 2, 3};
+    EXPECT_EQ(playerColours().front(), (RGB{1, 2, 3}));
+    row(*menu, "Reset to defaults").press();
+    EXPECT_EQ(accessibility, AccessibilitySettings{});
+    EXPECT_EQ(teamColours, defaultTeamColours);
+    EXPECT_EQ(playerColours().front(), player);
+    EXPECT_EQ(getConfigInt("accessibility", "ghostOpacity", -1), 16) << "what was saved stays";
+
+    for (void (CmdButtonBase::*key)() : {&CmdButtonBase::press, &CmdButtonBase::decrease, &CmdButtonBase::increase}) {
+        const std::string before = row(*menu, "Auto-load").text();
+        (row(*menu, "Auto-load").*key)();
+        EXPECT_NE(row(*menu, "Auto-load").text(), before);
+    }
+    row(*menu, "Auto-load").press();
+}
+
+}  // namespace
+}  // namespace vandrel
