@@ -13,10 +13,22 @@
 
 namespace vandrel {
 
+namespace {
+
+// Exceptions would be raised at once on a file that could not be opened; that is for the first read or write to tell.
+template <class File>
+void openFile(File& file, const std::string& path, std::ios::openmode mode) {
+    file.open(path, mode);
+    if (file.is_open()) {
+        file.exceptions(std::ios::eofbit | std::ios::failbit | std::ios::badbit);
+    }
+}
+
+}  // namespace
+
 ReplayBeingPlayed::ReplayBeingPlayed(const std::string& name) : name_(name) {
     logText("Loading replay: " + name_ + "\n");
-    file_.open(name_, std::ios::binary);
-    file_.exceptions(std::ios::eofbit | std::ios::failbit | std::ios::badbit);
+    openFile(file_, name_, std::ios::in | std::ios::binary);
     playerSetups_ = loadReplayHeader(file_, version_);
     logPrintf("Replay version: %d\n", version_);
     if (verifyEnabled) {
@@ -46,18 +58,6 @@ void ReplayBeingPlayed::finish(bool cameToItsEnd) {
     }
 }
 
-namespace {
-
-// Exceptions would be raised at once on a file that could not be opened; that is for the first write to tell.
-void createFile(std::ofstream& file, const std::string& path, std::ios::openmode mode) {
-    file.open(path, mode);
-    if (file.is_open()) {
-        file.exceptions(std::ios::eofbit | std::ios::failbit | std::ios::badbit);
-    }
-}
-
-}  // namespace
-
 RoundBeingRecorded::RoundBeingRecorded(bool record) : RoundBeingRecorded(record ? newReplayName() : std::string()) {}
 
 RoundBeingRecorded::RoundBeingRecorded(const std::string& name) : record_(!name.empty()), name_(name) {
@@ -65,9 +65,9 @@ RoundBeingRecorded::RoundBeingRecorded(const std::string& name) : record_(!name.
         return;
     }
     logText("Creating replay: " + name_ + "\n");
-    createFile(file_, name_, std::ios::binary | std::ios::out);
+    openFile(file_, name_, std::ios::binary | std::ios::out);
     if (verifyEnabled) {
-        createFile(verify_, plainVerifyPath(name_), std::ios::out);
+        openFile(verify_, plainVerifyPath(name_), std::ios::out);
     }
     const ArenaSize& size = checkedAt(arenaSizes, gameOptions.arenaSizeResolved.value());
     grid_squares_x = size.width;

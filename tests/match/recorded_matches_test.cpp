@@ -120,6 +120,15 @@ TEST_F(RecordedMatchTest, WritesNoProofWithVerificationOff) {
     EXPECT_EQ(replayFiles().size(), 1U);
 }
 
+TEST_F(RecordedMatchTest, SaysThatAReplayWhichIsGoneCannotBeRead) {
+    try {
+        play(true, replaysDir() + "/3.1.1.2.replay");
+        FAIL();
+    } catch (const std::runtime_error& failure) {
+        EXPECT_STREQ(failure.what(), "File not open for reading");
+    }
+}
+
 TEST_F(RecordedMatchTest, PlaysItsReplayToTheSameEndAtItsOwnRate) {
     const std::string replay = recordRound();
     const auto before = replayFiles();

@@ -48,7 +48,9 @@ void readHeader(ReplayInfo& info) {
     int version = -1;
     try {
         std::ifstream stream(info.path, std::ios::in | std::ios::binary);
-        stream.exceptions(std::ios::badbit | std::ios::failbit | std::ios::eofbit);
+        if (stream.is_open()) {  // the first read tells of one that is not
+            stream.exceptions(std::ios::badbit | std::ios::failbit | std::ios::eofbit);
+        }
         const auto options = readGameOptions(stream, version);
         if (version < 0) {
             info.errors.push_back("Invalid replay version: " + versionText(version));
