@@ -29,7 +29,7 @@ constexpr double graceSeconds = 0.1;  // for who has just let go
 
 std::shared_ptr<BitmapWrapper> makeBackdrop(bool dim) {
     constexpr bool preserve = true;
-    const auto backdrop = std::make_shared<BitmapWrapper>(screen->width(), screen->height(), preserve);
+    auto backdrop = std::make_shared<BitmapWrapper>(screen->width(), screen->height(), preserve);
     clearToBlack(*backdrop);
     drawWrapper(*screen, *backdrop, 0, 0);
     if (dim) {
