@@ -40,10 +40,11 @@ void drawFigures(TrophyShow& show, const ScoringEntity& entity, int rowTop, cons
     for (int i = 0; i < figures; ++i) {
         const int left = trophyFigureLeft(i, figures);
         const int height = rowTop + spritePivot.y;
+        drawFigure(show, *entity.players[static_cast<unsigned>(i)], {left + spritePivot.x, height}, target);
+        // Over the figure, which would hide all but its edge.
         if (entity.teamColour && isTeamMode(gameOptions.gameMode)) {
             drawFilledRectangle(target, left, height, left + barWidth, height + barHeight, *entity.teamColour);
         }
-        drawFigure(show, *entity.players[static_cast<unsigned>(i)], {left + spritePivot.x, height}, target);
     }
 }
 
