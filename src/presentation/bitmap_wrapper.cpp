@@ -9,11 +9,12 @@ namespace vandrel {
 
 namespace {
 
-ALLEGRO_BITMAP* createBitmap(int width, int height, bool preserve) {
+ALLEGRO_BITMAP* createBitmap(int width, int height, bool preserve, bool shrinksSmoothly) {
     ALLEGRO_STATE before;
     al_store_state(&before, ALLEGRO_STATE_NEW_BITMAP_PARAMETERS);
     al_set_new_bitmap_format(ALLEGRO_PIXEL_FORMAT_ANY_WITH_ALPHA);
-    al_set_new_bitmap_flags(ALLEGRO_CONVERT_BITMAP | (preserve ? 0 : ALLEGRO_NO_PRESERVE_TEXTURE));
+    al_set_new_bitmap_flags(ALLEGRO_CONVERT_BITMAP | (preserve ? 0 : ALLEGRO_NO_PRESERVE_TEXTURE) |
+                            (shrinksSmoothly ? ALLEGRO_MIN_LINEAR : 0));
     ALLEGRO_BITMAP* bitmap = al_create_bitmap(width, height);
     if (bitmap == nullptr && (width < 1 || height < 1)) {
         // The first game bitmap is made before the game's size is known; not every driver makes an empty one.
@@ -28,8 +29,8 @@ ALLEGRO_BITMAP* createBitmap(int width, int height, bool preserve) {
 
 }  // namespace
 
-BitmapWrapper::BitmapWrapper(int width, int height, bool preserve)
-    : bitmap(createBitmap(width, height, preserve)), owned(true) {}
+BitmapWrapper::BitmapWrapper(int width, int height, bool preserve, bool shrinksSmoothly)
+    : bitmap(createBitmap(width, height, preserve, shrinksSmoothly)), owned(true) {}
 
 BitmapWrapper::BitmapWrapper(ALLEGRO_BITMAP* existing, bool ownsIt) : bitmap(existing), owned(ownsIt) {}
 

@@ -9,9 +9,10 @@ namespace vandrel {
 class BitmapWrapper {
   public:
     // A new bitmap of this size in pixels with an alpha channel, undefined in content. Without `preserve` its content
-    // may be lost with the display, which suits what is painted anew each frame. Throws std::runtime_error "Could not
-    // create bitmap".
-    BitmapWrapper(int width, int height, bool preserve);
+    // may be lost with the display, which suits what is painted anew each frame. With `shrinksSmoothly` its pixels are
+    // mixed where it is drawn smaller; else some of them are left out. Throws std::runtime_error "Could not create
+    // bitmap".
+    BitmapWrapper(int width, int height, bool preserve, bool shrinksSmoothly = false);
     // Wraps what exists, such as the display's back buffer. Freed with the wrapper only when `owned`.
     BitmapWrapper(ALLEGRO_BITMAP* bitmap, bool owned);
     BitmapWrapper(const BitmapWrapper&) = delete;

@@ -31,9 +31,11 @@ void setGameScreenSize(int width, int height) {
 }
 
 void renewGameScreen() {
-    constexpr bool preserve = false;  // every screen redraws each frame
+    constexpr bool preserve = false;        // every screen redraws each frame
+    constexpr bool shrinksSmoothly = true;  // or letters lose their strokes on a display smaller than the game
     // The size is 0 by 0 until the first slot, which not every driver takes; nothing shows that bitmap.
-    screen = std::make_shared<BitmapWrapper>(std::max(gameScreenWidth, 1), std::max(gameScreenHeight, 1), preserve);
+    screen = std::make_shared<BitmapWrapper>(std::max(gameScreenWidth, 1), std::max(gameScreenHeight, 1), preserve,
+                                             shrinksSmoothly);
 }
 
 void presentFrame() {
