@@ -8,6 +8,7 @@
 
 #include "frontend/menu_edit_colour.h"
 #include "frontend/rate_menus.h"
+#include "match/options/name_tables.h"
 #include "players/player_look.h"
 #include "shell/accessibility.h"
 #include "shell/config.h"
@@ -17,7 +18,6 @@ namespace vandrel {
 
 namespace {
 
-constexpr std::array<const char*, 5> backgroundNames{"Black", "Green", "Red", "Blue", "Grey"};  // by `bgcol`
 constexpr int mostOpacity = 255;
 constexpr int opacityStep = 16;
 
@@ -32,7 +32,7 @@ constexpr std::array<const char*, 8> flashingHeadings{"Flashing background setti
 
 // An index that only the file can hold is black, so it gets the name of black.
 void keepBackgroundNamed() {
-    if (accessibility.bgcol < 0 || accessibility.bgcol >= static_cast<int>(backgroundNames.size())) {
+    if (accessibility.bgcol < 0 || accessibility.bgcol >= static_cast<int>(BackgroundNames.size())) {
         accessibility.bgcol = 0;
     }
 }
@@ -86,8 +86,8 @@ std::shared_ptr<VandrelMenu> flashingMenu(MenuContext& context) {
 void addLooks(VandrelMenu& menu, MenuContext& context) {
     MenuStack& stack = context.stack;
     const int x = context.x;
-    menu.addEnum(x, "In-game background colour", &accessibility.bgcol, 0, static_cast<int>(backgroundNames.size()) - 1,
-                 makeNameList(backgroundNames));
+    menu.addEnum(x, "In-game background colour", &accessibility.bgcol, 0, static_cast<int>(BackgroundNames.size()) - 1,
+                 makeNameList(BackgroundNames));
     menu.addAction(x, "Edit team colours", [&] { stack.push(teamColoursMenu(context)); });
     menu.addAction(x, "Edit player colours", [&] { stack.push(playerColoursMenu(context)); });
     menu.addBool(x, "Outline around players", &accessibility.outlineEnabled, context.offOnNames);

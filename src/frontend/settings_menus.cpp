@@ -1,7 +1,5 @@
 #include "frontend/settings_menus.h"
 
-#include <array>
-
 #include "frontend/accessibility_menus.h"
 #include "frontend/lootbox_room.h"
 #include "frontend/menu_audio.h"
@@ -9,6 +7,7 @@
 #include "frontend/rate_menus.h"
 #include "input/controls_manager.h"
 #include "input/menu_input.h"
+#include "match/options/name_tables.h"
 #include "players/players_drawing.h"
 #include "shell/config.h"
 #include "shell/profile_screen.h"
@@ -61,7 +60,7 @@ std::shared_ptr<VandrelMenu> debugMenu(MenuContext& context) {
 
 // A mode that is none, which only the file can hold, admits no controller, and has no name to be shown by.
 void keepControlModeNamed() {
-    if (menuControlMode < 0 || menuControlMode >= static_cast<int>(std::size(menuControlModeNames))) {
+    if (menuControlMode < 0 || menuControlMode >= static_cast<int>(MenuControlModeNames.size())) {
         menuControlMode = MenuControlMode::KeyboardOnly;
     }
 }
@@ -81,7 +80,7 @@ std::shared_ptr<VandrelMenu> settingsMenu(MenuContext& context) {
     menu->addAction(x, "Phobias", [&] { stack.push(phobiasMenu(context, false)); });
     menu->addAction(x, "Debug", [&] { stack.push(debugMenu(context)); });
     menu->addEnum(x, "Menu control mode", &menuControlMode, MenuControlMode::KeyboardAndController1,
-                  MenuControlMode::KeyboardAndAnyController, makeNameList(menuControlModeNames));
+                  MenuControlMode::KeyboardAndAnyController, makeNameList(MenuControlModeNames));
     menu->addAction(x, "Profile", [] { profile(); });
     addBack(*menu, x, stack);
     return menu;

@@ -18,9 +18,6 @@ inline constexpr int KeyboardAndController1 = 1;
 inline constexpr int KeyboardAndAnyController = 2;
 }  // namespace MenuControlMode
 
-inline constexpr const char* menuControlModeNames[] = {"Keyboard only", "Keyboard and Controller 1",
-                                                       "Keyboard and any controller"};
-
 inline constexpr int maxDevices = 100;
 
 using DeviceList = std::vector<std::shared_ptr<Controls>>;
