@@ -13,16 +13,12 @@ namespace {
 
 constexpr int lineWidth = 12;  // characters
 
-// A keyboard has no keys for looks.
-bool changesLooks(const Controls& device) {
-    return dynamic_cast<const KeyboardControls*>(&device) == nullptr;
-}
-
 }  // namespace
 
 std::vector<std::string> deviceLines(const Controls& device, bool isHeld) {
     std::string text = wordWrap(device.description(), lineWidth);
-    if (isHeld && changesLooks(device)) {
+    // A keyboard has no keys for looks.
+    if (isHeld && !isKeyboard(device)) {
         const std::string looks = fmt::format("\nSkin: {}\nColor: {}", device.buttonText(ControlInput::ChangeSkin),
                                               device.buttonText(ControlInput::ChangeColour));
         text += boost::erase_all_copy(looks, " Button");

@@ -18,9 +18,8 @@
 namespace vandrel {
 namespace {
 
-// Whatever is no keyboard is a controller to the menus.
 bool isController(const std::shared_ptr<Controls>& device) {
-    return dynamic_cast<const KeyboardControls*>(device.get()) == nullptr;
+    return !isKeyboard(*device);
 }
 
 bool isJoystick(const std::shared_ptr<Controls>& device, JoystickHandle handle) {

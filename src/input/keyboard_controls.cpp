@@ -58,4 +58,8 @@ std::string KeyboardControls::name(ControlInput input) const {
     return keyName(key(input));
 }
 
+bool isKeyboard(const Controls& device) {
+    return dynamic_cast<const KeyboardControls*>(&device) != nullptr;
+}
+
 }  // namespace vandrel

@@ -35,4 +35,7 @@ class KeyboardControls final : public Controls {
     std::vector<int> keys;
 };
 
+// Whether the device is a key set. Whatever is none is a controller to menus and to the lobby.
+bool isKeyboard(const Controls& device);
+
 }  // namespace vandrel
