@@ -29,7 +29,7 @@ class Lobby {
     void setUp(const DeviceList& devices);
 
     // The two parts of one update, in this order; the first is left out while the lobby is in pause. The first starts
-    // the match if somebody asks for it, or everybody has held the bomb button for a second, and nothing is in the way.
+    // the match if somebody asks for it, or everybody has held the bomb button long enough, and nothing is in the way.
     void updateReadiness(bool startAsked);
     void update();
 
