@@ -2,8 +2,8 @@
 
 import unittest
 
-from game_test_case import ARENA_SCREEN, FIRST_PLAYER, SECOND_PLAYER, GameTestCase, stage
-from menu_keys import CLASSIC, MenuKeys
+from game_test_case import ARENA_SCREEN, FIRST_PLAYER, SECOND_PLAYER, GameTestCase
+from menu_keys import CLASSIC
 
 CAPTURE_THE_FLAG = CLASSIC + 1
 
@@ -24,14 +24,14 @@ class Lobby(GameTestCase):
         super().setUp()
         self.configure("[sound]\nsoundEffectsVolume=0\nmusicVolume=0\n")
         self.game = self.start()
-        self.menus = MenuKeys(self.screen, self.game)
-        self.menus.answer_first_run()
-        self.menus.open_start_game()
+        self.menu = self.menus(self.game)
+        self.menu.answer_first_run()
+        self.menu.open_start_game()
 
     def enter_lobby(self, row):
         """Goes from the choice of modes into the lobby, and gives the picture of it with nobody in it."""
-        self.menus.go_to_row(row, "the mode")
-        return self.press_until("Return", lambda picture: picture.pixel(5, 300) == FLOOR, "the lobby")
+        self.menu.go_to_row(row, "the mode")
+        return self.press_until_seen("Return", lambda picture: picture.pixel(5, 300) == FLOOR, "the lobby")
 
     def join(self, number, keys, before):
         """Joins a key set on its spot and gives the picture with the player there."""
@@ -56,17 +56,11 @@ class Lobby(GameTestCase):
             rows = [y for y in range(part.height) if REFUSAL_RED in part.part(0, y, part.width, 1).colours()]
             return bool(rows) and (rows[-1] >= 40) == (lines == 2)
 
-        self.press_until("space", refuses, f"a refusal of {lines} lines")
+        self.press_until_seen("space", refuses, f"a refusal of {lines} lines")
 
-    def press_until(self, key, fits, what):
-        """Presses a key again and again, since the game may miss one that follows another at once, until the screen
-        shows what `fits`. Gives that picture."""
-        def pressed():
-            self.screen.hold(0.1, key)
-            self.assertTrue(self.game.running(), self.game.errors())
-            return stage.poll(lambda: fits(self.screen.picture()), 2)
-
-        stage.wait_for(pressed, what)
+    def press_until_seen(self, key, fits, what):
+        """Presses a key until the screen shows what `fits`, and gives that picture."""
+        self.press_until(key, lambda: fits(self.screen.picture()), what)
         return self.screen.picture()
 
     def begin(self, *players):
@@ -74,10 +68,6 @@ class Lobby(GameTestCase):
         self.screen.press(*[keys["bomb"] for keys in players])
         self.game.wait_for_line("Begin game\n")
         self.screen.release_all()
-
-    def leave_game(self):
-        self.menus.quit_game()
-        self.assertEqual(self.game.wait_for_end(), 0)
 
     def test_two_key_sets_join_try_a_bomb_and_begin_a_match(self):
         empty = self.enter_lobby(CLASSIC)
@@ -95,7 +85,7 @@ class Lobby(GameTestCase):
 
         self.join(1, SECOND_PLAYER, after)
         self.begin(FIRST_PLAYER, SECOND_PLAYER)
-        self.leave_game()
+        self.assertEqual(self.leave(self.game), 0)
 
     def test_teams_are_formed_at_the_markers(self):
         empty = self.enter_lobby(CAPTURE_THE_FLAG)
@@ -109,18 +99,18 @@ class Lobby(GameTestCase):
         self.walk(FIRST_PLAYER["left"], lambda picture: stands_in(picture, FIRST_TEAM, 32),
                   "the first player in the first team")
         self.begin(FIRST_PLAYER, SECOND_PLAYER)
-        self.menus.quit_match(CAPTURE_THE_FLAG)
-        self.leave_game()
+        self.menu.quit_match(CAPTURE_THE_FLAG)
+        self.assertEqual(self.leave(self.game), 0)
 
     def test_a_lobby_that_was_left_is_empty_the_next_time(self):
         empty = self.enter_lobby(CLASSIC)
         self.join(0, FIRST_PLAYER, empty)
-        self.menus.quit_match()
+        self.menu.quit_match()
         again = self.enter_lobby(CLASSIC)
         self.assertFalse(differs(again, empty, (0, 0), ARENA_SCREEN, 0))
-        self.menus.quit_match()
+        self.menu.quit_match()
         self.assertNotIn("Begin game\n", self.game.errors())
-        self.leave_game()
+        self.assertEqual(self.leave(self.game), 0)
 
 
 def differs(picture, other, corner, size, share=0.1):
