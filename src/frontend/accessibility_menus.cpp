@@ -30,18 +30,6 @@ constexpr std::array<const char*, 8> flashingHeadings{"Flashing background setti
                                                       "epilepsy. However, if you wish you may turn off the",
                                                       "flashing background."};
 
-// An index that only the file can hold is black, so it gets the name of black.
-void keepBackgroundNamed() {
-    if (accessibility.bgcol < 0 || accessibility.bgcol >= static_cast<int>(BackgroundNames.size())) {
-        accessibility.bgcol = 0;
-    }
-}
-
-void load() {
-    loadAccessibility(accessibility);
-    keepBackgroundNamed();
-}
-
 void resetToDefaults() {
     accessibility = AccessibilitySettings{};
     teamColours = defaultTeamColours;
@@ -108,7 +96,7 @@ void addSaving(VandrelMenu& menu, MenuContext& context) {
         flip);
     autoLoad->setLeftAction(flip);
     autoLoad->setRightAction(flip);
-    menu.addAction(context.x, "Load", load);
+    menu.addAction(context.x, "Load", [] { loadAccessibility(accessibility); });
     menu.addAction(context.x, "Save", [] { saveAccessibility(accessibility); });
     menu.addAction(context.x, "Reset to defaults", resetToDefaults);
 }
@@ -116,7 +104,6 @@ void addSaving(VandrelMenu& menu, MenuContext& context) {
 }  // namespace
 
 std::shared_ptr<VandrelMenu> accessibilityMenu(MenuContext& context) {
-    keepBackgroundNamed();
     auto menu = std::make_shared<VandrelMenu>(&layoutDefault);
     menu->addHeading(context.headingX, "Accessibility settings");
     addLooks(*menu, context);

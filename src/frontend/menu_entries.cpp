@@ -1,5 +1,6 @@
 #include "frontend/menu_entries.h"
 
+#include <cstddef>
 #include <utility>
 
 #include "base/checked.h"
@@ -35,25 +36,23 @@ std::string CmdButtonInt::valueText() const {
 }
 
 void CmdButtonInt::decrease() {
-    *value_ -= step_;
-    if (*value_ < minValue_) {
-        *value_ = maxValue_;
-    }
+    *value_ = *value_ < minValue_ + step_ ? maxValue_ : *value_ - step_;
 }
 
 void CmdButtonInt::increase() {
-    *value_ += step_;
-    if (*value_ > maxValue_) {
-        *value_ = minValue_;
-    }
+    *value_ = *value_ > maxValue_ - step_ ? minValue_ : *value_ + step_;
 }
 
 CmdButtonEnum::CmdButtonEnum(int left, int top, int height, Label text, int* value, int minValue, int maxValue,
                              NameList names)
-    : CmdButtonInt(left, top, height, std::move(text), value, minValue, maxValue, 1), names_(std::move(names)) {}
+    : CmdButtonInt(left, top, height, std::move(text), value, minValue, maxValue, 1), names_(std::move(names)) {
+    static_cast<void>(checkedAt(*names_, minValue));
+    static_cast<void>(checkedAt(*names_, maxValue));
+}
 
 std::string CmdButtonEnum::valueText() const {
-    return checkedAt(*names_, value());
+    const auto index = static_cast<std::size_t>(value());  // of a negative value beyond every table
+    return index < names_->size() ? (*names_)[index] : CmdButtonInt::valueText();
 }
 
 CmdButtonBool::CmdButtonBool(int left, int top, int height, Label text, bool* value, NameList names)

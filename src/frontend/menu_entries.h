@@ -67,7 +67,7 @@ class CmdButtonText : public CmdButtonBase {
 };
 
 // A whole number from `minValue` to `maxValue`. A step beyond one end leads to the other end, not to a multiple of the
-// step; pressing steps upwards.
+// step; pressing steps upwards. A value from outside the range, which a file may hold, stays until it is stepped.
 class CmdButtonInt : public CmdButtonText {
   public:
     CmdButtonInt(int left, int top, int height, Label text, int* value, int minValue, int maxValue, int step);
@@ -87,7 +87,8 @@ class CmdButtonInt : public CmdButtonText {
     int step_;
 };
 
-// A number that is shown by its name. A value without a name throws std::out_of_range when it is drawn.
+// A number that is shown by its name. A range beyond the names throws std::out_of_range; a value beyond them is shown
+// as the number that it is.
 class CmdButtonEnum final : public CmdButtonInt {
   public:
     CmdButtonEnum(int left, int top, int height, Label text, int* value, int minValue, int maxValue, NameList names);

@@ -58,17 +58,9 @@ std::shared_ptr<VandrelMenu> debugMenu(MenuContext& context) {
     return menu;
 }
 
-// A mode that is none, which only the file can hold, admits no controller, and has no name to be shown by.
-void keepControlModeNamed() {
-    if (menuControlMode < 0 || menuControlMode >= static_cast<int>(MenuControlModeNames.size())) {
-        menuControlMode = MenuControlMode::KeyboardOnly;
-    }
-}
-
 }  // namespace
 
 std::shared_ptr<VandrelMenu> settingsMenu(MenuContext& context) {
-    keepControlModeNamed();
     auto menu = std::make_shared<VandrelMenu>(&layoutDefault, storeSettings);
     MenuStack& stack = context.stack;
     const int x = context.x;

@@ -8,7 +8,7 @@
 
 namespace vandrel {
 
-// Closing it stores what it and the menus below it edit.
+// Closing it stores the menu control mode, what is recorded, and whether the replay test and the frame rate are shown.
 std::shared_ptr<VandrelMenu> settingsMenu(MenuContext& context);
 
 // Which animals the players want to see. To build it marks the question as asked. The first run's form ends in "Done".

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 #include <string>
 
@@ -57,15 +58,22 @@ TEST_F(MenuScreens, TheFirstRunIsMarkedByItsQuestion) {
     row(*first, "Dogs: ").press();
 }
 
-TEST_F(MenuScreens, ValuesOfTheFileThatNoMenuOffersHaveANameToo) {
-    accessibility.bgcol = 9;
+TEST_F(MenuScreens, ValuesOfTheFileThatNoMenuOffersStayUntilTheyAreStepped) {
     menuControlMode = 7;
-    EXPECT_EQ(row(*accessibilityMenu(context), "In-game").valueText(), "Black");
-    EXPECT_EQ(row(*settingsMenu(context), "Menu control mode").valueText(), "Keyboard only");
+    EXPECT_EQ(row(*settingsMenu(context), "Menu control mode").valueText(), "7");
+    EXPECT_EQ(getConfigInt("controls", "menuControlMode", -1), 7) << "stored as it was when the menu closed";
+    row(*settingsMenu(context), "Menu control mode").increase();
+    EXPECT_EQ(getConfigInt("controls", "menuControlMode", -1), MenuControlMode::KeyboardAndController1);
+
     setConfigInt("accessibility", "bgcol", -3);
+    setConfigInt("accessibility", "ghostOpacity", std::numeric_limits<int>::max());
     const auto menu = accessibilityMenu(context);
     row(*menu, "Load").press();
-    EXPECT_EQ(row(*menu, "In-game").valueText(), "Black");
+    EXPECT_EQ(row(*menu, "In-game").valueText(), "-3");
+    row(*menu, "In-game").decrease();
+    EXPECT_EQ(row(*menu, "In-game").valueText(), "Grey");
+    row(*menu, "Ghost opacity").increase();
+    EXPECT_EQ(row(*menu, "Ghost opacity").valueText(), "0");
 }
 
 TEST_F(MenuScreens, AccessibilityIsSavedLoadedAndReset) {

@@ -165,8 +165,7 @@ TEST_F(MenuTest, NumbersNamesAndSwitches) {
     press(menu, {ALLEGRO_KEY_RIGHT, ALLEGRO_KEY_DOWN});
     EXPECT_EQ(menu.selected(), 1) << "the move wins";
     EXPECT_EQ(tens, 0);
-    named = 3;
-    EXPECT_THROW(entry(menu, 2).valueText(), std::out_of_range);
+    EXPECT_THROW(menu.addEnum(left, "beyond", &named, 0, 3, names), std::out_of_range);
 }
 
 TEST_F(MenuTest, AColourStepsAtItsOwnPaceFromTheStart) {
@@ -254,8 +253,8 @@ TEST_F(MenuTest, ControllersSteerAsTheModeAdmits) {
         bool steers;
     };
     const Case cases[] = {
-        {0, &layoutDefault, false}, {0, &layoutPause, false}, {1, &layoutDefault, false},
-        {2, &layoutDefault, true},  {2, &layoutPause, true},
+        {0, &layoutDefault, false}, {0, &layoutPause, false},  {1, &layoutDefault, false},
+        {1, &layoutPause, true},    {2, &layoutDefault, true}, {2, &layoutPause, true},
     };
     for (const Case& c : cases) {
         menuControlMode = c.mode;
