@@ -15,8 +15,6 @@ namespace vandrel {
 
 namespace {
 
-constexpr int rowsLeftOfMiddle = 200;  // pixels
-constexpr int headingLeftOfRows = 20;
 constexpr int mostVolume = 100;
 constexpr int volumeStep = 10;
 
@@ -44,8 +42,8 @@ void menuAudio(const std::shared_ptr<BitmapWrapper>& background, const VandrelMe
     EditedVolume effects(AudioType::Effects, "soundEffectsVolume");
     bool done = false;
     VandrelMenu menu(layout != nullptr ? layout : &layoutDefault);
-    const int left = x.value_or(screen->width() / 2 - rowsLeftOfMiddle);
-    menu.addHeading(std::max(left - headingLeftOfRows, 0), "Audio settings");
+    const int left = x.value_or(usualRowX(screen->width()));
+    menu.addHeading(std::max(left - headingsLeftOfRows, 0), "Audio settings");
     menu.addInt(left, "Music volume", &music.value, 0, mostVolume, volumeStep);
     menu.addInt(left, "Sound effects volume", &effects.value, 0, mostVolume, volumeStep);
     menu.addAction(left, "Back", [&done] { done = true; });

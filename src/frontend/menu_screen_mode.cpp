@@ -24,8 +24,7 @@ namespace vandrel {
 
 namespace {
 
-constexpr int rowsLeftOfMiddle = 200;  // pixels
-constexpr int leastWidth = 800;
+constexpr int leastWidth = 800;  // pixels
 constexpr int leastHeight = 600;
 constexpr Pixel currentModeAt{50, 200};
 constexpr Pixel selectedModeAt{50, 350};
@@ -141,7 +140,7 @@ void menuScreenMode() {
     selection.display = ALLEGRO_DEFAULT_DISPLAY_ADAPTER;
     bool done = false;
     VandrelMenu menu(&layoutScreenMode);
-    const int x = screen->width() / 2 - rowsLeftOfMiddle;
+    const int x = usualRowX(screen->width());
     addFullscreenRows(menu, x, selection);
     addWindowRows(menu, x, selection);
     menu.addAction(x, "Apply", [&selection] { applyAndConfirm(selection); });

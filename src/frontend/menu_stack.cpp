@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::array<const char*, 2> offOn{"Off", "On"};
 constexpr std::array<const char*, 2> onOff{"On", "Off"};
-constexpr int rowsLeftOfMiddle = 200;  // pixels
-constexpr int headingsLeftOfRows = 20;
 
 }  // namespace
 
@@ -40,7 +38,7 @@ void addBack(VandrelMenu& menu, int x, MenuStack& stack, const char* label) {
 }
 
 MenuContext::MenuContext(int screenWidth)
-    : x(screenWidth / 2 - rowsLeftOfMiddle),
+    : x(usualRowX(screenWidth)),
       headingX(x - headingsLeftOfRows),
       offOnNames(makeNameList(offOn)),
       onOffNames(makeNameList(onOff)) {}

@@ -36,6 +36,13 @@ inline constexpr VandrelMenuLayoutOptions layoutPause{.top = 100, .includeHeldCo
 inline constexpr VandrelMenuLayoutOptions layoutPauseSmall{
     .font = FontId::Font24, .top = 20, .includeHeldController = true};
 
+// The left edge of the rows of most screens on a screen so wide, and how far to their left headings begin. Pixels.
+constexpr int usualRowX(int screenWidth) {
+    constexpr int leftOfMiddle = 200;
+    return screenWidth / 2 - leftOfMiddle;
+}
+inline constexpr int headingsLeftOfRows = 20;
+
 // How a held direction gets faster. Shared by all menus, so the pace carries over from one to the next until every
 // direction is let go.
 extern int keyRepeatDelay;  // updates between two steps
