@@ -12,7 +12,7 @@ import unittest
 
 from game_test_case import NO_BOXES, PROGRAM, GameTestCase, has_light, stage
 
-SECONDS = float(os.environ.get("VANDREL_RANDOM_KEYS_SECONDS", "40"))
+SECONDS = float(os.environ.get("VANDREL_RANDOM_KEYS_SECONDS", "35"))
 SEED = int(os.environ.get("VANDREL_RANDOM_KEYS_SEED", "3"))
 
 ONE_START = (20, 60)   # seconds from a start of the game to the way out
@@ -56,10 +56,11 @@ class RandomKeys:
         self._random = random.Random(seed)
         self._began = time.monotonic()
         self._phrases_in_lobby = 0
+        self._joining = KEY_SETS
         self.presses = []
         self._phrases = {
             "menus": [(self.choose, 16), (self.confirm, 3), (self.back, 2), (self.delete, 1), (self.play, 1)],
-            "lobby": [(self.begin, 10), (self.gather, 6), (self.play, 2), (self.choose, 2), (self.pause, 1)],
+            "lobby": [(self.begin, 8), (self.gather, 5), (self.play, 1), (self.choose, 1), (self.pause, 1)],
             "match": [(self.play, 16), (self.fast_forward, 3), (self.pause, 1), (self.confirm, 4), (self.choose, 1)],
         }
 
@@ -69,6 +70,8 @@ class RandomKeys:
     def press_something(self, place):
         """Presses for up to some seconds. A lobby is left for the menus without a word, so it is not believed for long,
         and no place is believed always."""
+        if place == "lobby" and self._phrases_in_lobby == 0:
+            self._joining = self._random.sample(KEY_SETS, self._random.choice([2, 2, 3, 4]))
         self._phrases_in_lobby = self._phrases_in_lobby + 1 if place == "lobby" else 0
         if self._random.random() < 0.1 or self._phrases_in_lobby > LONG_LOBBY:
             place = self._random.choice(list(self._phrases))
@@ -104,14 +107,15 @@ class RandomKeys:
         self.tap("F8")
 
     def begin(self):
-        """All join who have not, and ask to begin by holding on."""
-        self._hold(2, *[keys[BOMB] for keys in self._random.sample(KEY_SETS, self._random.choice([2, 3, 4, 4, 4, 4]))])
+        """All join who have not, and ask to begin by holding on or by Space."""
+        self._hold(self._random.choice([0.3, 2]), *[keys[BOMB] for keys in self._joining])
+        self.tap("space")
 
     def gather(self):
         """All walk down, where the teams gather in a lobby, and some a little to the side."""
-        self._hold(3.2, *[keys[DOWN] for keys in KEY_SETS])
-        self._hold(self._random.uniform(0.1, 0.8), *[keys[self._random.choice([LEFT, RIGHT])]
-                                                     for keys in self._random.sample(KEY_SETS, 2)])
+        self._hold(3.2, *[keys[DOWN] for keys in self._joining])
+        for keys in self._random.sample(self._joining, self._random.randrange(len(self._joining))):
+            self._hold(self._random.uniform(0.2, 1), keys[self._random.choice([LEFT, RIGHT])])
 
     def play(self):
         """Fingers of several players that go down and up at any time."""
