@@ -144,14 +144,32 @@ class MenuKeys:
         said = self._game.errors()
         return said.rfind("Begin game\n") > said.rfind("Game ended\n")
 
+    def _pause(self):
+        """Opens the pause of a round or of the lobby, and gives where its highlighted row lies. A score table and the
+        count of the cash have no pause and are left; None when the match ends behind them."""
+        ended = self._game.errors().count("Game ended\n")
+
+        def opened():
+            self._screen.press("Escape")
+            try:
+                row = stage.poll(self.highlight, 2)
+            finally:
+                self._screen.release("Escape")
+            if self._game.errors().count("Game ended\n") > ended:
+                return [None]
+            if row is None:
+                self._screen.hold(0.05, "space")
+            return row and [row]
+
+        return stage.wait_for(opened, "the pause menu")[0]
+
     def quit_match(self, *started_from):
-        """From a round or the lobby back to the menus, by the last row of the pause. They highlight the row that the
-        match was started from, one of those given, or that of the first mode."""
-        self._screen.press("Escape")
-        try:
-            first, end = stage.wait_for(self.highlight, "the pause menu")
-        finally:
-            self._screen.release("Escape")
+        """From a round or the lobby back to the menus, by the last row of the pause, unless the match ends before. They
+        highlight the row that the match was started from, one of those given, or that of the first mode."""
+        row = self._pause()
+        if row is None:
+            return
+        first, end = row
         step = (end - first) / ROW_HEIGHT * ROW_STEP
 
         def is_on_quit():
