@@ -53,9 +53,10 @@ void writeIcons(const std::filesystem::path& directory) {
     const Canvas small = smallIcon(), large = largeIcon();
     for (const int size : sizes) {
         const std::string side = std::to_string(size);
+        const std::filesystem::path folder = directory / std::string(side).append("x").append(side) / "apps";
         const Canvas picture =
             size % large.width() == 0 ? large.scaled(size / large.width()) : small.scaled(size / small.width());
-        writePng(picture, directory / (side + "x" + side) / "apps" / "vandrel.png");
+        writePng(picture, folder / "vandrel.png");
     }
     writeText(scalable(large), directory / "scalable" / "apps" / "vandrel.svg");
 }

@@ -69,20 +69,25 @@ Shape Pose::limb(Point from, Point to, float radiusFrom, float radiusTo) const {
     return taper(start.x, start.y, end.x, end.y, radiusFrom * size, radiusTo * size);
 }
 
-Shape Pose::corners(const std::vector<Point>& points) const {
-    std::vector<Point> placed;
+namespace {
+
+std::vector<Point> placed(const Pose& pose, const std::vector<Point>& points) {
+    std::vector<Point> result;
+    result.reserve(points.size());
     for (const Point& point : points) {
-        placed.push_back(at(point.x, point.y));
+        result.push_back(pose.at(point.x, point.y));
     }
-    return polygon(std::move(placed));
+    return result;
+}
+
+}  // namespace
+
+Shape Pose::corners(const std::vector<Point>& points) const {
+    return polygon(placed(*this, points));
 }
 
 Shape Pose::tube(const std::vector<Point>& points, float radius) const {
-    std::vector<Point> placed;
-    for (const Point& point : points) {
-        placed.push_back(at(point.x, point.y));
-    }
-    return curve(placed, radius * size);
+    return curve(placed(*this, points), radius * size);
 }
 
 Pose Pose::part(float dx, float dy, float scale, float turn) const {
