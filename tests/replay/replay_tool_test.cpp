@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "base/version.h"
 #include "match/options/game_options.h"
 #include "replay/tool/commands.h"
 #include "replay/tool/option_names.h"
@@ -108,6 +109,17 @@ TEST_F(ReplayTool, FailsWhatDoesNotHold) {
     expectFailure("cannot be opened for reading");
     std::filesystem::create_directory(path_);
     EXPECT_THAT(run({"verify", folder_.path().string()}).output, HasSubstr("is a folder"));
+}
+
+TEST_F(ReplayTool, SaysOfALaterReleasesReplayThatItIsOne) {
+    writeFile(path_, int32(replayVersion(9, 9, 9)));
+    for (const char* command : {"info", "verify", "trace"}) {
+        const Outcome outcome = run({command, path_});
+        EXPECT_EQ(outcome.status, 1) << command;
+        EXPECT_THAT(outcome.output + outcome.errors,
+                    HasSubstr(": Replay from future version of game: 9.9.9; this build reads up to 1.1.2\n"))
+            << command;
+    }
 }
 
 TEST_F(ReplayTool, TellsTheHeaderAsJson) {

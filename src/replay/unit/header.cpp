@@ -1,6 +1,10 @@
 #include "replay/unit/header.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <optional>
+#include <stdexcept>
 
 #include "arena/arena.h"
 #include "base/checked.h"
@@ -191,10 +195,14 @@ void writeReplayHeader(std::ostream& stream) {
 }
 
 std::vector<PlayerSetup> loadReplayHeader(std::istream& stream, int& version) {
-    OptionRecord record = readOptionRecord(&stream, version).value();
-    gameOptions = record.options;
-    grid_squares_x = record.arenaSize.x;
-    grid_squares_y = record.arenaSize.y;
+    const std::optional<OptionRecord> record = readOptionRecord(&stream, version);
+    if (!record) {
+        throw std::runtime_error(
+            fmt::format("{}; this build reads up to {}", versionRefusal(version), versionText(replayOutputVersion)));
+    }
+    gameOptions = record->options;
+    grid_squares_x = record->arenaSize.x;
+    grid_squares_y = record->arenaSize.y;
     reaches.flag = version >= flagReachFrom
                        ? static_cast<float>(checkedField("flag reach", readSignedByte(&stream), 0, 127))
                        : oldFlagReach;

@@ -26,8 +26,8 @@ void writeReplayHeader(std::ostream& stream);
 
 // Replaces `gameOptions`, the arena's size, the reach of flags and `teams` by what the file says, and gives the
 // players, whose teams are found; the teams' members are for the caller to add, once the players exist. Throws
-// std::bad_optional_access for a version that this build cannot play, std::runtime_error for a wrong marker or a number
-// that no release wrote, std::ios_base::failure for a short file.
+// std::runtime_error for a version that this build cannot play, for a wrong marker and for a number that no release
+// wrote, std::ios_base::failure for a short file.
 std::vector<PlayerSetup> loadReplayHeader(std::istream& stream, int& version);
 
 }  // namespace vandrel

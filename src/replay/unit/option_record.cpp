@@ -235,9 +235,16 @@ void writeOptionRecord(std::ostream* stream, Square arenaSize) {
     optionFields(fields, gameOptions, arenaSize);
 }
 
+std::string versionRefusal(int version) {
+    if (version < 0) {
+        return "Invalid replay version: " + versionText(version);
+    }
+    return version > replayOutputVersion ? "Replay from future version of game: " + versionText(version) : "";
+}
+
 std::optional<OptionRecord> readOptionRecord(std::istream* stream, int& version) {
     version = readInt(stream);
-    if (version < 0 || version > replayOutputVersion) {
+    if (!versionRefusal(version).empty()) {
         return std::nullopt;
     }
     OptionRecord record;

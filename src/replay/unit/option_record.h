@@ -4,6 +4,7 @@
 
 #include <iosfwd>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -23,8 +24,11 @@ struct OptionRecord {
 // writing operations throw.
 void writeOptionRecord(std::ostream* stream, Square arenaSize);
 
+// Why a replay of this version cannot be read, in words for the player; empty for one that can.
+std::string versionRefusal(int version);
+
 // Reads all of that; what is not stored has the value of a fresh record, what the version did not know yet the value
-// that its rules implied. Empty, with `version` set, for a version that is negative or newer than this build's. Throws
+// that its rules implied. Empty, with `version` set, for a version that is refused. Throws
 // std::runtime_error that names the field for a number that no release wrote, or for a wrong marker, and
 // std::ios_base::failure for a short file.
 std::optional<OptionRecord> readOptionRecord(std::istream* stream, int& version);

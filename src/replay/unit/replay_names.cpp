@@ -52,10 +52,8 @@ void readHeader(ReplayInfo& info) {
             stream.exceptions(std::ios::badbit | std::ios::failbit | std::ios::eofbit);
         }
         const auto options = readGameOptions(stream, version);
-        if (version < 0) {
-            info.errors.push_back("Invalid replay version: " + versionText(version));
-        } else if (!options) {
-            info.errors.push_back("Replay from future version of game: " + versionText(version));
+        if (!options) {
+            info.errors.push_back(versionRefusal(version));
         } else {
             info.version = version;
             info.gameMode = static_cast<int>(options->gameMode);
