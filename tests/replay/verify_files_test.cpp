@@ -142,7 +142,10 @@ TEST_F(ReplayNames, countOnFromTheHighest) {
     for (const char* name : {"3.1.1.2.replay", "kept/12.0.96.5.replay", "40.1.1.2.replay.verify", "notes.txt"}) {
         writeFile(replay(name), "");
     }
-    EXPECT_EQ(newReplayName(), replay("13.1.1.2.replay"));
+    writeFile(replay("2147483647.1.1.2.replay"), "");
+    EXPECT_EQ(newReplayName(), replay("13.1.1.2.replay")) << "nothing comes behind the highest number";
+    writeFile(replay("2147483646.1.1.2.replay"), "");
+    EXPECT_THROW(newReplayName(), std::out_of_range) << "and nothing is overwritten";
     writeFile(replay("first.replay"), "");
     EXPECT_THROW(newReplayName(), std::invalid_argument);
 }

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <fstream>
 #include <functional>
+#include <limits>
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
@@ -112,9 +113,15 @@ std::vector<ReplayInfo> getAllReplays(bool readHeaders) {
 }
 
 std::string newReplayName() {
+    constexpr int last = std::numeric_limits<int>::max();
     int highest = -1;
     for (const ReplayInfo& info : getAllReplays(false)) {
-        highest = std::max(highest, info.number);
+        if (info.number != last) {
+            highest = std::max(highest, info.number);
+        }
+    }
+    if (highest + 1 == last) {
+        throw std::out_of_range("No number is left for a new replay");
     }
     return fmt::format("{}/{}.{}.replay", replaysDir(), highest + 1, versionText(replayOutputVersion));
 }

@@ -26,7 +26,9 @@ struct ReplayInfo {
 // ends the list early. Throws std::invalid_argument or std::out_of_range for a name that does not begin with a number.
 std::vector<ReplayInfo> getAllReplays(bool readHeaders);
 
-// The path of the next recording: the highest number in use plus one, and this build's version.
+// The path of the next recording: the highest number in use plus one, and this build's version. The highest number that
+// there is does not count, since nothing comes behind it. Throws what `getAllReplays` throws, and std::out_of_range
+// where no number is left.
 std::string newReplayName();
 
 }  // namespace vandrel
