@@ -119,9 +119,9 @@ bool setVideoMode(int width, int height, bool windowed, int adapter) {
     al_set_window_title(theDisplay, "Vandrel");
     announceResult(width, height, windowed);
     setWindowIcon(theDisplay, "vandrel.ico");
-    renewGameScreen();
     constexpr bool owned = false;
     displayBitmap = std::make_shared<BitmapWrapper>(al_get_backbuffer(theDisplay), owned);
+    renewGameScreen();
     al_convert_memory_bitmaps();
     return true;
 }

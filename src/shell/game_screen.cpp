@@ -31,11 +31,14 @@ void setGameScreenSize(int width, int height) {
 }
 
 void renewGameScreen() {
-    constexpr bool preserve = false;        // every screen redraws each frame
-    constexpr bool shrinksSmoothly = true;  // or letters lose their strokes on a display smaller than the game
+    constexpr bool preserve = false;  // every screen redraws each frame
     // The size is 0 by 0 until the first slot, which not every driver takes; nothing shows that bitmap.
-    screen = std::make_shared<BitmapWrapper>(std::max(gameScreenWidth, 1), std::max(gameScreenHeight, 1), preserve,
-                                             shrinksSmoothly);
+    const int width = std::max(gameScreenWidth, 1);
+    const int height = std::max(gameScreenHeight, 1);
+    const ScreenRectangle shown = letterboxRectangle(displayBitmap->width(), displayBitmap->height(), width, height);
+    // Letters that shrink lose strokes unless pixels are mixed, which costs time where no graphics card helps.
+    const bool shrinksSmoothly = shown.width < width || shown.height < height;
+    screen = std::make_shared<BitmapWrapper>(width, height, preserve, shrinksSmoothly);
 }
 
 void presentFrame() {

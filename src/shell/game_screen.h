@@ -28,7 +28,8 @@ void setGameScreenSlot(int slot);
 // The same with a size in pixels, for the arena of a round.
 void setGameScreenSize(int width, int height);
 
-// Makes a new game bitmap of the game screen size and lets go of the old one; the pixels are undefined.
+// Makes a new game bitmap of the game screen size, to be shown on `displayBitmap` as large as that is now, and lets go
+// of the old one; the pixels are undefined.
 void renewGameScreen();
 
 // Shows the game bitmap.

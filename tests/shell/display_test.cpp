@@ -135,6 +135,19 @@ TEST_F(GameScreenTest, APresentedFrameHasBlackBorders) {
     }
 }
 
+// Mixed pixels keep the strokes of letters, and take their time.
+TEST_F(GameScreenTest, PixelsAreMixedOnlyWhereThePictureShrinks) {
+    struct Case {
+        int width, height;
+        bool mixed;
+    };
+    for (const Case& c : {Case{100, 40, false}, Case{20, 20, false}, Case{104, 40, true}, Case{90, 42, true}}) {
+        setGameScreenSize(c.width, c.height);
+        EXPECT_EQ((al_get_bitmap_flags(screen->bitmap) & ALLEGRO_MIN_LINEAR) != 0, c.mixed)
+            << c.width << "x" << c.height;
+    }
+}
+
 TEST(SetVideoModeTest, WithoutADisplayServerThereIsNoDisplay) {
     installAllegroHeadless();
     ASSERT_EQ(al_get_num_video_adapters(), 0);
