@@ -77,11 +77,12 @@ bool ControlsManager::rescan() {
         scanPlatform();
         logJoysticks(*joysticks_);
     }
+    const bool anyLost = removeLostDevices();
+    // Also where as many pads as there may be devices, which leave no place for keyboards, were pulled at once.
     if (devices.empty()) {
         makeFirstDevices();
         return true;
     }
-    const bool anyLost = removeLostDevices();
     const bool anyNew = addNewJoysticks();
     return anyLost || anyNew;
 }

@@ -37,8 +37,9 @@ class ControlsManager {
     explicit ControlsManager(std::shared_ptr<JoystickDriver> joysticks = nullptr);
 
     // Brings the list in step with what is plugged in, and logs all of it. True if the list changed. The first scan
-    // puts the joysticks in, then a keyboard device for each key set; a joystick found later comes last of all. A
-    // device that has gone leaves the list, but not the player who holds it.
+    // puts the joysticks in, then a keyboard device for each key set, up to `maxDevices` of both; a joystick found
+    // later comes last of all. A device that has gone leaves the list, but not the player who holds it. A list that has
+    // lost its last device is made anew as by the first scan, so it is never empty.
     bool rescan();
 
     // Once per update: gives devices that no event announces their turn. True if the list changed. There are none.

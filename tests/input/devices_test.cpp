@@ -6,6 +6,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "input/controls_manager.h"
 #include "input/joystick_controls.h"
@@ -111,6 +112,22 @@ TEST_F(DevicesTest, AtMostAHundredDevicesAreThereFromTheStart) {
     const ControlsManager full(driver);
     ASSERT_EQ(full.devices.size(), 100U);
     EXPECT_EQ(full.devices[99]->description(), "p");
+}
+
+TEST_F(DevicesTest, KeyboardsTakeTheirPlaceWhenPadsThatLeftThemNoneArePulledAtOnce) {
+    std::vector<std::shared_ptr<FakePad>> pads;
+    for (int i = 0; i < maxDevices; ++i) {
+        pads.push_back(driver->plugPlainPad("p"));
+    }
+    ControlsManager manager(driver);
+    for (const auto& pad : pads) {
+        pad->plugged = false;
+    }
+    EXPECT_TRUE(manager.rescan());
+    EXPECT_EQ(joined(manager.devices), keyboards);
+    pads.back()->plugged = true;
+    EXPECT_TRUE(manager.rescan());
+    EXPECT_EQ(joined(manager.devices), keyboards + "p ");
 }
 
 TEST_F(DevicesTest, APlatformWithoutJoysticksEndsTheStart) {
