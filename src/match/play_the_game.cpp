@@ -8,7 +8,6 @@
 
 #include "arena/game.h"
 #include "arena/level_generation.h"
-#include "arena/sparks.h"
 #include "base/checked.h"
 #include "frontend/join_screen.h"
 #include "frontend/lootbox_room.h"
@@ -20,6 +19,7 @@
 #include "match/options/game_options.h"
 #include "match/options/name_tables.h"
 #include "match/round_files.h"
+#include "match/round_start.h"
 #include "match/round_transitions.h"
 #include "players/player.h"
 #include "presentation/ogg_music.h"
@@ -130,17 +130,11 @@ bool Match::setUp(Game& game, const PackagedReplayData& data) {
         world_.showNoSpace(error.what());
         return false;
     }
-    game.shrinkCountdown = gameOptions.timeBeforeShrinkingFrames.value();
-    game.aiSnakeCountdown = gameOptions.snakePreparationFrames;
-    game.aiSnakesLeft = gameOptions.snakeCount;
     return true;
 }
 
 RoundEnding Match::runFrames(Game& game) {
-    for (const auto& player : players) {
-        player->startRound();
-    }
-    sparks.clear();
+    startRound(game);
     if (game.shrinkAllowed) {
         music_ = world_.makeMusic();
     }

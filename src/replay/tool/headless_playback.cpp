@@ -11,23 +11,13 @@
 #include "arena/sparks.h"
 #include "input/controls.h"
 #include "match/match_players.h"
+#include "match/round_start.h"
 #include "players/player.h"
 #include "replay/unit/streams.h"
 #include "replay/unit/verification.h"
 #include "shell/frame_counter.h"
 
 namespace vandrel {
-
-void startRound(Game& game) {
-    game.shrinkCountdown = gameOptions.timeBeforeShrinkingFrames.value();
-    game.aiSnakeCountdown = gameOptions.snakePreparationFrames;
-    game.aiSnakesLeft = gameOptions.snakeCount;
-    for (const auto& player : players) {
-        player->startRound();
-    }
-    sparks.clear();
-    frameCounter = 0;
-}
 
 namespace {
 

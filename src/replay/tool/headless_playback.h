@@ -61,7 +61,4 @@ class HeadlessPlayback {
     int updatesBehindRecords_ = 0;
 };
 
-// What the rules want done between the set-up of a round and its first update.
-void startRound(Game& game);
-
 }  // namespace vandrel

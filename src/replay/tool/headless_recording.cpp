@@ -8,6 +8,7 @@
 #include "match/match_players.h"
 #include "match/options/automatic_options.h"
 #include "match/options/name_tables.h"
+#include "match/round_start.h"
 #include "players/player.h"
 #include "replay/tool/headless_playback.h"
 #include "shell/frame_counter.h"
