@@ -39,14 +39,31 @@ constexpr std::array<KindImage, 11> kindImages{{
 constexpr double eighthTurn = 0.7853981633974483;
 constexpr float fullTurn = 6.283185307179586f;
 
+const KindImage* imageOf(int kind) {
+    const auto* const found = std::find_if(kindImages.begin(), kindImages.end(), [kind](const KindImage& image) {
+        return kind >= image.first && kind <= image.last;
+    });
+    return found != kindImages.end() ? &*found : nullptr;
+}
+
+std::shared_ptr<BitmapWrapper> composeStrip(const WallRun& run) {
+    return composePicture(run.length * squareSize, squareSize, [&](const BitmapWrapper& canvas) {
+        for (int i = 0; i < run.length; ++i) {
+            drawId(canvas, run.bitmap, i * squareSize, 0);
+        }
+    });
+}
+
+// Each frame of crumbling is a kind of its own, but most of them look the same, and look at the same picture.
 const BitmapWrapper& stripOf(Game& game, const WallRun& run) {
-    std::shared_ptr<BitmapWrapper>& strip = picturesOf(game).wallStripCache[{run.kind, run.length}];
+    auto& strips = picturesOf(game).wallStripCache;
+    std::shared_ptr<BitmapWrapper>& strip = strips[{run.kind, run.length}];
     if (!strip) {
-        strip = composePicture(run.length * squareSize, squareSize, [&](const BitmapWrapper& canvas) {
-            for (int i = 0; i < run.length; ++i) {
-                drawId(canvas, run.bitmap, i * squareSize, 0);
-            }
-        });
+        std::shared_ptr<BitmapWrapper>& first = strips[{imageOf(run.kind)->first, run.length}];
+        if (!first) {
+            first = composeStrip(run);
+        }
+        strip = first;
     }
     return *strip;
 }
@@ -54,12 +71,8 @@ const BitmapWrapper& stripOf(Game& game, const WallRun& run) {
 }  // namespace
 
 std::optional<BitmapIds> wallBitmap(int kind) {
-    for (const KindImage& image : kindImages) {
-        if (kind >= image.first && kind <= image.last) {
-            return image.bitmap;
-        }
-    }
-    return {};
+    const KindImage* const image = imageOf(kind);
+    return image != nullptr ? std::optional(image->bitmap) : std::nullopt;
 }
 
 std::vector<WallRun> wallRuns(const std::vector<int>& row) {
