@@ -42,7 +42,7 @@ FAULTS = {
         {"shell/log.h": '#include "match/options/game_options.h"\n'}, ["shell/log.h", "may not know options"]),
     "base knows the shell": ({"base/vector2.h": '#include "shell/log.h"\n'}, ["base/vector2.h", "may not know"]),
     "a screen knows the roof": (
-        {"frontend/menu.cpp": '#include "shell/start_up.h"\n', "shell/start_up.h": ""},
+        {"frontend/menu.cpp": '#include "shell/shutdown.h"\n', "shell/shutdown.h": ""},
         ["frontend/menu.cpp", "may not know roof"]),
     "the replay unit knows the game": (
         {"replay/unit/streams.h": '#include "arena/game.h"\n'}, ["replay/unit/streams.h", "may not know arena"]),
