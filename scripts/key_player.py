@@ -6,6 +6,14 @@ from collections import deque
 
 from round_in_progress import EMPTY, HARD_WALL, WALL
 
+# The key sets of the keyboard in the order in which players get them, by the X names of their keys.
+KEY_SETS = [
+    {"up": "Up", "left": "Left", "down": "Down", "right": "Right", "bomb": "Control_R", "button 2": "Shift_R"},
+    {"up": "w", "left": "a", "down": "s", "right": "d", "bomb": "Control_L", "button 2": "Shift_L"},
+    {"up": "i", "left": "j", "down": "k", "right": "l", "bomb": "n", "button 2": "m"},
+    {"up": "t", "left": "f", "down": "g", "right": "h", "bomb": "c", "button 2": "v"},
+]
+
 DIRECTIONS = {"right": (1, 0), "left": (-1, 0), "down": (0, 1), "up": (0, -1)}
 FUSE_UPDATES = 90
 FLAME_UPDATES = 40  # the flames of the ranges met here, and the crumbling of what they hit, with some to spare

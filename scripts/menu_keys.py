@@ -126,6 +126,10 @@ class MenuKeys:
         """From the main menu through the lobby of a classic match into its first round. Everybody with one of the keys
         joins; `in_lobby` is called when they have."""
         self.open_start_game()
+        self.join_chosen_match(bomb_keys, in_lobby)
+
+    def join_chosen_match(self, bomb_keys, in_lobby=lambda: None):
+        """The same from the row of any mode that needs no teams."""
         self.enter()
         self._game.wait_for_line("playerJoinScreen: grid\n")
         stage.wait_for(lambda: self.highlight() is None, "the lobby")

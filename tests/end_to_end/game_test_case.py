@@ -12,6 +12,7 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
 
 import stage  # noqa: E402  (the path above leads to it)
+from key_player import KEY_SETS  # noqa: E402
 from menu_keys import MenuKeys  # noqa: E402
 
 PROGRAM = Path(os.environ.get("VANDREL_PROGRAM", stage.REPOSITORY / "build" / "release" / "bin" / "vandrel"))
@@ -23,8 +24,7 @@ SQUARE = 32
 ARENA_SCREEN = (SQUARES[0] * SQUARE, SQUARES[1] * SQUARE)
 
 # The key sets of the first two players.
-FIRST_PLAYER = {"up": "Up", "down": "Down", "left": "Left", "right": "Right", "bomb": "Control_R"}
-SECOND_PLAYER = {"up": "w", "down": "s", "left": "a", "right": "d", "bomb": "Control_L"}
+FIRST_PLAYER, SECOND_PLAYER = KEY_SETS[:2]
 
 # A variable that the dialogs of the platform look at: with it no box opens that somebody would have to answer, and the
 # text of a box stands on standard error alone.

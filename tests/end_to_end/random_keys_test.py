@@ -11,6 +11,7 @@ import time
 import unittest
 
 from game_test_case import NO_BOXES, PROGRAM, GameTestCase, has_light, stage
+from key_player import KEY_SETS
 
 SECONDS = float(os.environ.get("VANDREL_RANDOM_KEYS_SECONDS", "35"))
 SEED = int(os.environ.get("VANDREL_RANDOM_KEYS_SEED", "3"))
@@ -20,15 +21,6 @@ WAY_OUT_LIMIT = 120    # seconds; under a sanitizer the shows at the end of a ma
 LONG_LOBBY = 12        # phrases
 SHOWN_PRESSES = 80     # of a failure
 SHOWN_CHARACTERS = 8000
-
-# By each key set: up, left, down, right, bomb, Button 2.
-KEY_SETS = [
-    ["Up", "Left", "Down", "Right", "Control_R", "Shift_R"],
-    ["w", "a", "s", "d", "Control_L", "Shift_L"],
-    ["i", "j", "k", "l", "n", "m"],
-    ["t", "f", "g", "h", "c", "v"],
-]
-LEFT, DOWN, RIGHT, BOMB = 1, 2, 3, 4
 
 # Leads out from everywhere when it is repeated: Escape leaves every menu, the main menu too, and opens the pause in a
 # match or a lobby, where it does no more. Up and Return are the last row, which leaves the pause, and in time the row
@@ -108,20 +100,20 @@ class RandomKeys:
 
     def begin(self):
         """All join who have not, and ask to begin by holding on or by Space."""
-        self._hold(self._random.choice([0.3, 2]), *[keys[BOMB] for keys in self._joining])
+        self._hold(self._random.choice([0.3, 2]), *[keys["bomb"] for keys in self._joining])
         self.tap("space")
 
     def gather(self):
         """All walk down, where the teams gather in a lobby, and some a little to the side."""
-        self._hold(3.2, *[keys[DOWN] for keys in self._joining])
+        self._hold(3.2, *[keys["down"] for keys in self._joining])
         for keys in self._random.sample(self._joining, self._random.randrange(len(self._joining))):
-            self._hold(self._random.uniform(0.2, 1), keys[self._random.choice([LEFT, RIGHT])])
+            self._hold(self._random.uniform(0.2, 1), keys[self._random.choice(["left", "right"])])
 
     def play(self):
         """Fingers of several players that go down and up at any time."""
         down = []
         for _ in range(self._random.randrange(10, 50)):
-            key = self._random.choices(self._random.choice(KEY_SETS), [4, 4, 4, 4, 4, 1])[0]
+            key = self._random.choices(list(self._random.choice(KEY_SETS).values()), [4, 4, 4, 4, 4, 1])[0]
             if key in down:
                 down.remove(key)
                 self._screen.release(key)
