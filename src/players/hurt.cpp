@@ -36,9 +36,14 @@ bool hitsBody(DeathReason reason) {
 }
 
 // Sprites that fly off only look like something: their numbers come from sources that no rule draws from.
+constexpr float flyingGrowth = 0.2f;   // the least there is
+constexpr float spinFromPart = 8.0f;   // of each scattered part more than of the one before it
+constexpr int delayFromPart = 2;       // frames, likewise
+constexpr int strongestDeathSpin = 45;  // either way
+
 float drawScaleVelocity() {
-    std::normal_distribution<float> distribution(0.2f, 0.1f);
-    return std::max(distribution(particleGenerator), 0.2f);
+    std::normal_distribution<float> distribution(flyingGrowth, 0.1f);
+    return std::max(distribution(particleGenerator), flyingGrowth);
 }
 
 }  // namespace
@@ -51,9 +56,7 @@ void Player::hurt(DeathReason reason, const PackagedReplayData& replayData, cons
         if (halvesThroughShield(reason) && snakeLength > 0) {
             halveSnake(killer);
         }
-        if (shieldTimer == lastingShield()) {
-            --shieldTimer;
-        }
+        useShield();
         return;
     }
     if (snakeLength > 0) {
@@ -78,8 +81,7 @@ void Player::startCrawling(const PackagedReplayData& replayData) {
         remoteActive = false;
         releaseBombs(false);
     }
-    shield = true;
-    shieldTimer = runningShield();
+    takeRunningShield();
 }
 
 void Player::hurtSnake(DeathReason reason, const PackagedReplayData& replayData,
@@ -119,8 +121,7 @@ void Player::halveSnake(const std::shared_ptr<Player>& killer) {
             killer->creditKill(shared_from_this(), false);
         }
     }
-    shield = true;
-    shieldTimer = runningShield();
+    takeRunningShield();
     if (gameOptions.minorStunEnabled) {
         minorStunTimer = gameOptions.minorStunTime;
     }
@@ -135,12 +136,12 @@ void Player::scatterParts(std::size_t firstPart) {
         particle.sprite = makeKey(*this, std::nullopt, partFacing);
         particle.x = partX;
         particle.y = partY;
-        particle.scaleVelocity = 0.2f;
+        particle.scaleVelocity = flyingGrowth;
         particle.spinVelocity = spin;
         particle.delay = delay;
         particles.push_back(particle);
-        spin += 8.0f;
-        delay += 2;
+        spin += spinFromPart;
+        delay += delayFromPart;
     }
 }
 
@@ -160,9 +161,8 @@ void Player::becomeHuman() {
     crawling = true;
     animFrame = 1;
     facing = Facing::Right;
-    shield = true;
     crawlTimer = scaledFrames(crawlFrames);
-    shieldTimer = runningShield();
+    takeRunningShield();
 }
 
 void Player::die() {
@@ -180,7 +180,7 @@ void Player::die() {
     particle.x = x;
     particle.y = y;
     particle.scaleVelocity = drawScaleVelocity();
-    particle.spinVelocity = static_cast<float>(gameRand() % 91 - 45);
+    particle.spinVelocity = static_cast<float>(gameRand() % (2 * strongestDeathSpin + 1) - strongestDeathSpin);
     particles.push_back(particle);
 }
 

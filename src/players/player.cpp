@@ -60,6 +60,23 @@ int Player::lastingShield() {
     return runningShield() + 1;
 }
 
+void Player::takeLastingShield() {
+    shield = true;
+    ghost = false;
+    shieldTimer = lastingShield();
+}
+
+void Player::takeRunningShield() {
+    shield = true;
+    shieldTimer = runningShield();
+}
+
+void Player::useShield() {
+    if (shieldTimer == lastingShield()) {
+        --shieldTimer;
+    }
+}
+
 void Player::becomeSnake() {
     playSample(SampleIds::Snake, fullVolume);
     setSnakeLength(isAI ? gameOptions.snakeStartLength : humanSnakeLength);
@@ -117,9 +134,7 @@ void Player::startRound() {
         }
     }
     if (gameOptions.startWithShield) {
-        shield = true;
-        ghost = false;
-        shieldTimer = lastingShield();
+        takeLastingShield();
     }
     fireLocked = true;
 }

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -106,7 +107,7 @@ class Player : public std::enable_shared_from_this<Player> {
     void releaseBombs(bool restartFuse);
 
     Pixel position() const { return {x, y}; }
-    Pixel centre() const { return {x + 16, y + 16}; }
+    Pixel centre() const { return {x + halfSquare, y + halfSquare}; }
     Square square() const { return squareUnder({x, y}); }
     bool isSnake() const { return snakeLength > 0; }
     int snakeLengthNow() const { return snakeLength; }
@@ -192,6 +193,12 @@ class Player : public std::enable_shared_from_this<Player> {
     void halveSnake(const std::shared_ptr<Player>& killer);
     void scatterParts(std::size_t firstPart);
     void hurtSnake(DeathReason reason, const PackagedReplayData& replayData, const std::shared_ptr<Player>& killer);
+    // The shield of a powerup or a start, which lasts until it is needed, and the one after a hit or a return, which
+    // runs out at once.
+    void takeLastingShield();
+    void takeRunningShield();
+    // What ends the wait of a lasting shield.
+    void useShield();
 
     // The steps of `update`.
     void updateTrail();
@@ -236,6 +243,9 @@ class Player : public std::enable_shared_from_this<Player> {
     // Powerups.
     void pickUp();
     void applyPowerup(int bonus, std::string& suffix);
+    void changeFire(int bonus);
+    void changeForm(int bonus, std::string& suffix);
+    void afflictOthers(int bonus);
     void takeCash(std::string& suffix);
     void takeExtraBomb();
     void takeSpeed(std::string& suffix);

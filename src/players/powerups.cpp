@@ -90,8 +90,16 @@ void Player::givePowerup(int bonus) {
     game->tell(fmt::format("{}{}", checkedAt(bonusNames, bonus).displayName, suffix), centre());
 }
 
+// Each powerup is a case of one of the three.
 void Player::applyPowerup(int bonus, std::string& suffix) {
     playSoundOf(bonus);
+    changeFire(bonus);
+    changeForm(bonus, suffix);
+    afflictOthers(bonus);
+}
+
+// What the fire control lays, how many of them, and how far and how their flames go.
+void Player::changeFire(int bonus) {
     switch (bonus) {
         case Bonus::Bomb:
             takeExtraBomb();
@@ -99,43 +107,11 @@ void Player::applyPowerup(int bonus, std::string& suffix) {
         case Bonus::Range:
             ++range;
             break;
-        case Bonus::Speed:
-            takeSpeed(suffix);
-            break;
         case Bonus::Controller:
             bombType = BombType::RemoteControl;
             break;
         case Bonus::Timebomb:
             bombType = BombType::Detonator;
-            break;
-        case Bonus::Ghost:
-        case Bonus::QuestionGhost:
-            takeGhost();
-            break;
-        case Bonus::Shield:
-        case Bonus::QuestionShield:
-            shield = true;
-            ghost = false;
-            shieldTimer = lastingShield();
-            break;
-        case Bonus::Cash:
-            takeCash(suffix);
-            break;
-        case Bonus::Death:
-            takeDeath();
-            break;
-        case Bonus::Superman:
-            strength = true;
-            break;
-        case Bonus::Stop:
-        case Bonus::QuestionStop:
-            forEveryOther([](Player& other) { other.stopTimer = scaledFrames(stopFrames); });
-            break;
-        case Bonus::Snail:
-            forEveryOther([](Player& other) { other.slowTimer = gameOptions.snailSeconds * snailFramesPerSecond; });
-            break;
-        case Bonus::Snake:
-            becomeSnake();
             break;
         case Bonus::Annhiliator:
             annihilator = true;
@@ -151,6 +127,51 @@ void Player::applyPowerup(int bonus, std::string& suffix) {
             break;
         case Bonus::UltraBomb:
             ultraBomb = true;
+            break;
+        default:
+            break;
+    }
+}
+
+// What the player itself is and has.
+void Player::changeForm(int bonus, std::string& suffix) {
+    switch (bonus) {
+        case Bonus::Speed:
+            takeSpeed(suffix);
+            break;
+        case Bonus::Ghost:
+        case Bonus::QuestionGhost:
+            takeGhost();
+            break;
+        case Bonus::Shield:
+        case Bonus::QuestionShield:
+            takeLastingShield();
+            break;
+        case Bonus::Cash:
+            takeCash(suffix);
+            break;
+        case Bonus::Death:
+            takeDeath();
+            break;
+        case Bonus::Superman:
+            strength = true;
+            break;
+        case Bonus::Snake:
+            becomeSnake();
+            break;
+        default:
+            break;
+    }
+}
+
+void Player::afflictOthers(int bonus) {
+    switch (bonus) {
+        case Bonus::Stop:
+        case Bonus::QuestionStop:
+            forEveryOther([](Player& other) { other.stopTimer = scaledFrames(stopFrames); });
+            break;
+        case Bonus::Snail:
+            forEveryOther([](Player& other) { other.slowTimer = gameOptions.snailSeconds * snailFramesPerSecond; });
             break;
         default:
             break;
@@ -204,9 +225,7 @@ void Player::takeCash(std::string& suffix) {
 // A shield takes it like a hit.
 void Player::takeDeath() {
     if (shield) {
-        if (shieldTimer == lastingShield()) {
-            --shieldTimer;
-        }
+        useShield();
         return;
     }
     if (diagnostic) {

@@ -91,8 +91,7 @@ void Player::respawn(const PackagedReplayData& replayData) {
     x = corner.x;
     y = corner.y;
     reset();
-    shield = true;
-    shieldTimer = runningShield();
+    takeRunningShield();
     if (!replayData.isOlderThan(clearedSquaresFrom)) {
         clearAround(back, respawnRoomRadius, false);
     } else if (squareGrid.at(back) != SquareKind::Empty) {
