@@ -55,8 +55,7 @@ void readSpeed(Game& game, Player& snake, bool& replayEnded) {
             throw;
         }
         logText("EOF (read AI snake speed)\n");
-        replayEnded = true;
-        game.endMarkSeen = true;
+        game.meetEndOfRecords(replayEnded);
         return;
     }
     VANDREL_CHECK_AT(snake.speed > 0 && snake.speed < 11, "player.back()->speed > 0 && player.back()->speed < 11",

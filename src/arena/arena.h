@@ -48,15 +48,15 @@ constexpr Pixel centreOf(Square square) {
 constexpr Pixel leadingPixel(Pixel position, Facing facing) {
     switch (facing) {
         case Facing::Right:
-            return {position.x + 31, position.y + 16};
+            return {position.x + squareSize - 1, position.y + halfSquare};
         case Facing::Up:
-            return {position.x + 16, position.y};
+            return {position.x + halfSquare, position.y};
         case Facing::Left:
-            return {position.x, position.y + 16};
+            return {position.x, position.y + halfSquare};
         case Facing::Down:
             break;
     }
-    return {position.x + 16, position.y + 31};
+    return {position.x + halfSquare, position.y + squareSize - 1};
 }
 
 inline int arenaWidthPixels() {

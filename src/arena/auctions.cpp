@@ -22,6 +22,7 @@ namespace {
 
 constexpr int auctionFrames = 540;
 constexpr int bombsAndRangesInLot = 3;
+constexpr int severalInLotFrom = replayVersion(1, 0, 3);
 
 bool mayBid(const Player& player) {
     return player.canUsePowerups() && player.cash > 0;
@@ -67,7 +68,7 @@ void showBidButtons(Game& game) {
 
 int Game::auctionQuantity(int bonus) const {
     const bool several = bonus == Bonus::Bomb || bonus == Bonus::Range;
-    return several && !replay.isOlderThan(replayVersion(1, 0, 3)) ? bombsAndRangesInLot : 1;
+    return several && !replay.isOlderThan(severalInLotFrom) ? bombsAndRangesInLot : 1;
 }
 
 void Game::openAuction() {

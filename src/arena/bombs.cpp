@@ -10,6 +10,7 @@ namespace vandrel {
 namespace {
 
 constexpr int rocketStepFrames = 3;
+constexpr int oneStepAPassFrom = replayVersion(0, 95, 15);
 
 bool isWaiting(const Bomb& bomb, const Player& owner) {
     return (bomb.kind == BombKind::Steered || bomb.kind == BombKind::Armed) && owner.remoteActive;
@@ -37,7 +38,7 @@ void flyRocket(Game& game, Square square, const Player& owner) {
     Bomb& moved = bombGrid.edit(next);
     moved = rocket;
     moved.rocketStep = 0;
-    moved.movedThisFrame = !game.replay.isOlderThan(replayVersion(0, 95, 15));
+    moved.movedThisFrame = !game.replay.isOlderThan(oneStepAPassFrom);
     rocket.owner.reset();
 }
 

@@ -74,7 +74,7 @@ void drawFlameLayer(const Game& game, const BitmapWrapper& target, int layer) {
             continue;
         }
         const BitmapIds first = owner->annihilator ? Explo1A : Explo1;
-        const Pixel corner = squareToPixel({explosion.x, explosion.y});
+        const Pixel corner = squareToPixel(explosion.square());
         drawId(target, first + (layer - 1), corner.x, corner.y);
     }
 }

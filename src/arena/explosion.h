@@ -23,7 +23,7 @@ struct Explosion {
     bool firstFrame = false;      // is looked at in its first frame although its timer runs
 
     bool isLive() const { return !owner.expired(); }
-    bool isOn(Square square) const { return x == square.x && y == square.y; }
+    Square square() const { return {x, y}; }
 };
 
 }  // namespace vandrel

@@ -77,8 +77,8 @@ void drawFlag(Game& game, const BitmapWrapper& target, const Flag& flag) {
 void drawTeamBases(const BitmapWrapper& target) {
     for (const Team& team : teams) {
         const Pixel corner = squareToPixel(team.base());
-        const int x = corner.x + 16;
-        const int y = corner.y + 32;
+        const int x = corner.x + halfSquare;
+        const int y = corner.y + squareSize;
         for (float size = 1.0f; size > 0.0f; size -= 0.2f) {
             drawEllipse(target, x, y, static_cast<int>(16.0f * size), static_cast<int>(4.0f * size), team.colour);
         }

@@ -89,7 +89,7 @@ void FlamePass::update(Explosion& explosion) {
         return;
     }
     explosion.firstFrame = false;
-    const Square square{explosion.x, explosion.y};
+    const Square square = explosion.square();
     if (!isInsideGrid(square)) {
         explosion.owner.reset();
         removed_.add(explosion.waveId);
@@ -114,7 +114,7 @@ void FlamePass::update(Explosion& explosion) {
 }
 
 void FlamePass::meetWall(Explosion& explosion, const Player& owner) {
-    const Square square{explosion.x, explosion.y};
+    const Square square = explosion.square();
     const int kind = squareGrid.at(square);
     if (!owner.annihilator || isIndestructible(kind)) {
         explosion.owner.reset();

@@ -42,6 +42,8 @@ struct PendingWall {
     int x = 0;
     int y = 0;
     int frames = 0;
+
+    Square square() const { return {x, y}; }
 };
 
 struct Auction {
@@ -122,6 +124,7 @@ class Game {
     std::shared_ptr<Player> playerOnSquare(Square square, const Player* ignoredPlayer) const;
     // Whether the spiral has all but closed: what respawns and slides waits from then on.
     bool isArenaAlmostClosed() const;
+    bool isOnHill(Square square) const;
     int countDeadHumans() const;
     bool noAISnakesLeft() const;
     bool isRoundOver() const;
@@ -140,6 +143,8 @@ class Game {
     void explodeBomb(Square square, const std::shared_ptr<Player>& owner);
     // A flamethrower's flame: three layers that set out from the square in this direction.
     void fireFlame(Square square, Square direction, const std::shared_ptr<Player>& owner);
+    // Playback has come to the end of its records, or of its file.
+    void meetEndOfRecords(bool& replayEnded);
     // How many of the powerup the winner of an auction gets.
     int auctionQuantity(int bonus) const;
     // The square for the next snake of the computer, drawn from `spawnRng`; empty when a thousand pairs were no use.
@@ -186,7 +191,7 @@ class Game {
     std::unique_ptr<Auction> auction;
     int auctionCountdown = 0;
     int scoreToastFrames = 90;
-    bool endMarkSeen = false;  // playback has met the end of its records; what is left of the update reads none
+    bool endMarkSeen = false;  // after `meetEndOfRecords`: what is left of the update reads no record
 
     // What only drawing needs, made when first drawn: the hill's tiles, the flags' frames, the wall strips.
     std::shared_ptr<ArenaPictures> pictures;
@@ -212,6 +217,9 @@ class Game {
     Layer<int> flameStamps_;  // the hit check that last found a flame on the square
     int flameStamp_ = 0;
 };
+
+// Whether teams have bases in this match's mode.
+bool hasBases();
 
 // Where a closing wall goes on from here, and whether it turned.
 std::pair<ShrinkCursor, bool> nextShrinkStep(const ShrinkCursor& cursor);

@@ -38,7 +38,7 @@ void drawFloor(Game& game, const BitmapWrapper& target) {
             if (bonus != 0) {
                 const Pixel corner = squareToPixel(square);
                 drawId(target, bonusBitmap(bonus), corner.x, corner.y);
-            } else if (hasHill && isOnHill(game, square)) {
+            } else if (hasHill && game.isOnHill(square)) {
                 drawHillSquare(game, target, square);
             }
         }
@@ -59,11 +59,6 @@ std::vector<const Flag*> drawLooseFlags(Game& game, const BitmapWrapper& target)
         }
     }
     return carried;
-}
-
-bool showsBases() {
-    return gameOptions.gameMode == GameMode::Everything || isModeActive(GameMode::CaptureTheFlag) ||
-           isModeActive(GameMode::KingOfTheHill);
 }
 
 void drawSparks(const BitmapWrapper& target) {
@@ -87,7 +82,7 @@ void drawGame(Game& game, const BitmapWrapper& target, bool forJoinScreen) {
     }
     drawBombs(target);
     const std::vector<const Flag*> carriedFlags = drawLooseFlags(game, target);
-    if (!forJoinScreen && showsBases()) {
+    if (!forJoinScreen && hasBases()) {
         drawTeamBases(target);
     }
     drawFlames(game, target);

@@ -50,7 +50,7 @@ bool Game::isSquareBlocked(Square square, int mask, const Player* ignoredPlayer,
 
 bool Game::hasExplosion(Square square) const {
     return std::any_of(explosions.begin(), explosions.end(),
-                       [&](const Explosion& explosion) { return explosion.isOn(square); });
+                       [&](const Explosion& explosion) { return explosion.square() == square; });
 }
 
 bool Game::isShrinkCursorAt(Square square) const {
@@ -77,7 +77,7 @@ bool Game::isBombNear(Square square, float radius) const {
 
 bool Game::isExplosionNear(Square square, float radius) const {
     return std::any_of(explosions.begin(), explosions.end(), [&](const Explosion& explosion) {
-        return squaredDistance({explosion.x, explosion.y}, square) <= radius * radius;
+        return squaredDistance(explosion.square(), square) <= radius * radius;
     });
 }
 
@@ -108,6 +108,10 @@ bool Game::isArenaAlmostClosed() const {
     const ShrinkCursor& cursor = shrinkCursors.front();
     return cursor.y == grid_squares_y / 2 && squareGrid.at(cursor.x, cursor.y - 1) == SquareKind::EdgeWall &&
            squareGrid.at(cursor.x, cursor.y + 1) == SquareKind::EdgeWall;
+}
+
+bool Game::isOnHill(Square square) const {
+    return square.x >= hillLeft && square.x <= hillRight && square.y >= hillTop && square.y <= hillBottom;
 }
 
 int Game::countDeadHumans() const {

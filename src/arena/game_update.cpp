@@ -49,8 +49,7 @@ void Game::update(bool& roundOver, bool& replayEnded, const std::shared_ptr<Musi
     if (replay.playback) {
         const NextByte next = peekReplay(replay.input);
         if (next != NextByte::Record) {
-            replayEnded = true;
-            endMarkSeen = true;
+            meetEndOfRecords(replayEnded);
         }
         if (next == NextByte::EndOfFile) {
             return;
@@ -108,15 +107,18 @@ void Game::updatePlayers(bool& replayEnded) {
             throw;
         }
         logText("EOF (p->update)\n");
-        replayEnded = true;
-        endMarkSeen = true;
+        meetEndOfRecords(replayEnded);
     } catch (int mark) {
         if (mark != replayEndMark) {
             throw;
         }
-        replayEnded = true;
-        endMarkSeen = true;
+        meetEndOfRecords(replayEnded);
     }
+}
+
+void Game::meetEndOfRecords(bool& replayEnded) {
+    replayEnded = true;
+    endMarkSeen = true;
 }
 
 // A team dies out when the last of its members able to rescue falls.

@@ -39,11 +39,6 @@ int hillTileAlpha(int frame, bool even) {
     return std::clamp(even ? meanAlpha + swing : meanAlpha - swing, 0, opaque);
 }
 
-bool isOnHill(const Game& game, Square square) {
-    return square.x >= game.hillLeft && square.x <= game.hillRight && square.y >= game.hillTop &&
-           square.y <= game.hillBottom;
-}
-
 void buildHillPattern(Game& game) {
     ArenaPictures& pictures = picturesOf(game);
     const BitmapWrapper block(tileSize, tileSize, true);

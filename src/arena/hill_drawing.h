@@ -12,9 +12,6 @@ class Game;
 // How solid a tile of the hill is in this frame, 0 to 255. Even and odd tiles pulse in opposite phase.
 int hillTileAlpha(int frame, bool even);
 
-// Whether the square belongs to the hill.
-bool isOnHill(const Game& game, Square square);
-
 // Makes the five tiles and draws each place's tile by `gameRand`. Painting calls it when it first meets the hill.
 void buildHillPattern(Game& game);
 

@@ -135,8 +135,7 @@ void setUpRound(Square gridSize, const PackagedReplayData& replayData, Game& gam
     for (const auto& player : players) {
         player->game = &game;
     }
-    if (isModeActive(GameMode::CaptureTheFlag) || isModeActive(GameMode::KingOfTheHill) ||
-        gameOptions.gameMode == GameMode::Everything) {
+    if (hasBases()) {
         placeBases();
     }
     if (isModeActive(GameMode::CaptureTheFlag)) {

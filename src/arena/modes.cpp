@@ -71,6 +71,11 @@ PlayerWinners playersWithMostKills() {
 
 }  // namespace
 
+bool hasBases() {
+    return gameOptions.gameMode == GameMode::Everything || isModeActive(GameMode::CaptureTheFlag) ||
+           isModeActive(GameMode::KingOfTheHill);
+}
+
 void Team::addScore(int points, Game& game, const Player& player) {
     score += points;
     game.addScoreToast(points, player, *this);
@@ -109,8 +114,7 @@ void Game::updateHill() {
         if (player->dead || player->ghost || player->isAI || player->team == -1) {
             continue;
         }
-        const Square square = player->square();
-        if (square.x >= hillLeft && square.x <= hillRight && square.y >= hillTop && square.y <= hillBottom) {
+        if (isOnHill(player->square())) {
             teams.at(static_cast<std::size_t>(player->team)).addScore(1, *this, *player);
             player->trailTimer = hillTrailFrames;
         }

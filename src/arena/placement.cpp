@@ -238,8 +238,7 @@ void Placement::fill() {
 }
 
 std::vector<Square> Placement::placeAll() {
-    if (gameOptions.gameMode == GameMode::Everything || isModeActive(GameMode::CaptureTheFlag) ||
-        isModeActive(GameMode::KingOfTheHill)) {
+    if (hasBases()) {
         if (teams.size() == 2) {
             placeTwoTeams();
         } else if (teams.size() == 3 || teams.size() == 4) {

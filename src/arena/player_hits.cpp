@@ -23,7 +23,7 @@ void Game::markFlames() {
     }
     ++flameStamp_;
     for (const Explosion& explosion : explosions) {
-        flameStamps_.at(explosion.x, explosion.y) = flameStamp_;
+        flameStamps_.at(explosion.square()) = flameStamp_;
     }
 }
 
@@ -42,11 +42,11 @@ void Game::checkFlames(Player& player) {
             continue;
         }
         const bool ownFlamethrower = explosion.isFlamethrower && owner.get() == &player;
-        if (explosion.isOn(centre) && !ownFlamethrower) {
+        if (explosion.square() == centre && !ownFlamethrower) {
             player.hurt(DeathReason::Explosion, replay, owner);
             return;
         }
-        if (player.hasBodyOn({explosion.x, explosion.y})) {
+        if (player.hasBodyOn(explosion.square())) {
             player.hurt(DeathReason::SnakeBodyHitByExplosion, replay, owner);
             return;
         }

@@ -52,9 +52,8 @@ bool columnHoldsEdge(int x, int y) {
 
 // High far from players and away from edge walls.
 float wallScore(const Game& game, Square square, const std::vector<Square>& living) {
-    const bool pending = std::any_of(game.pendingWalls.begin(), game.pendingWalls.end(), [&](const PendingWall& wall) {
-        return Square{wall.x, wall.y} == square;
-    });
+    const bool pending = std::any_of(game.pendingWalls.begin(), game.pendingWalls.end(),
+                                     [&](const PendingWall& wall) { return wall.square() == square; });
     if (pending || (!game.replay.isOlderThan(testedSquaresFrom) && !canRespawnWallAt(game, square))) {
         return 0.0f;
     }
@@ -76,7 +75,7 @@ bool canRespawnWallAt(const Game& game, Square square) {
 
 // Where the records have ended none is left for this wall, and it does not stand.
 void Game::standWall(const PendingWall& wall) {
-    const Square square{wall.x, wall.y};
+    const Square square = wall.square();
     if (replay.playback) {
         if (endMarkSeen) {
             return;
@@ -100,7 +99,7 @@ void Game::standWall(const PendingWall& wall) {
 void Game::updatePendingWalls() {
     for (PendingWall& wall : pendingWalls) {
         --wall.frames;
-        if (wall.frames < 1 && canRespawnWallAt(*this, {wall.x, wall.y})) {
+        if (wall.frames < 1 && canRespawnWallAt(*this, wall.square())) {
             standWall(wall);
         }
     }

@@ -144,7 +144,7 @@ void drawAnnouncedWalls(const Game& game, const BitmapWrapper& target) {
     for (const PendingWall& wall : game.pendingWalls) {
         const float radius = 2.0f * static_cast<float>(wall.frames);
         const int alpha = opaque - std::min(2 * wall.frames, opaque);
-        const Pixel corner = squareToPixel({wall.x, wall.y});
+        const Pixel corner = squareToPixel(wall.square());
         for (float angle = 0.0f; angle < fullTurn; angle = static_cast<float>(angle + eighthTurn)) {
             const float x = std::sin(angle) * radius + static_cast<float>(corner.x);
             const float y = std::cos(angle) * radius + static_cast<float>(corner.y);

@@ -25,6 +25,9 @@ int snakeCount = 0;  // players now in snake form
 constexpr int humanSnakeLength = 4;
 constexpr int shieldFrames = 120;
 constexpr int firstRange = 2;
+constexpr int humanSnakeSpeed = 3;
+constexpr int stunnedSnakeSpeed = 2;
+constexpr int crawl = 1;  // pixels a frame at every rate
 constexpr int crawlersMayNotBidFrom = replayVersion(1, 0, 11);
 
 }  // namespace
@@ -149,15 +152,15 @@ int Player::getSpeed(const PackagedReplayData& replayData) const {
     const auto perFrame = [](int pixelsAt60) { return std::max(pixelsAt60 / gameOptions.frameMultiplier, 1); };
     if (snakeLength > 0) {
         if (slowTimer > 0 && !replayData.isOlderThan(majorStunFrom)) {
-            return 1;
+            return crawl;
         }
         if (!isAI) {
-            return perFrame(3);
+            return perFrame(humanSnakeSpeed);
         }
-        return perFrame(minorStunTimer > 0 && gameOptions.minorStunEnabled ? 2 : speed);
+        return perFrame(minorStunTimer > 0 && gameOptions.minorStunEnabled ? stunnedSnakeSpeed : speed);
     }
     if (crawling) {
-        return 1;
+        return crawl;
     }
     return perFrame(slowTimer > 0 ? speed / 2 : speed);
 }

@@ -43,7 +43,8 @@ RGB drawFarFrom(RGB background, std::mt19937& generator) {
     return colour;
 }
 
-// Looks are picked from sources of their own, so that a replay does not depend on who changed clothes.
+// Looks are picked from sources of their own, so that a replay does not depend on who changed clothes. The system is
+// asked for their seeds when they are first needed.
 std::mt19937& looksGenerator() {
     static std::mt19937 generator{std::random_device{}()};
     return generator;

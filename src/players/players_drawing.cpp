@@ -13,7 +13,6 @@
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/accessibility.h"
-#include "shell/frame_counter.h"
 
 namespace vandrel {
 
@@ -25,9 +24,10 @@ constexpr float pi = 3.1415927f;
 constexpr float eighthTurn = pi / 4.0f;
 constexpr float fullTurn = 2.0f * pi;
 
-constexpr int blinkFrames = 120;  // how long a shield or ghost announces its end
-constexpr int trailStep = 5;      // points from one afterimage to the next
+constexpr int trailStep = 5;  // points from one afterimage to the next
 constexpr int firstTrailAlpha = 127;
+constexpr int teamMarkerWidth = 16;  // pixels each way from its middle
+constexpr int teamMarkerHeight = 4;
 
 const ALLEGRO_COLOR white{1.0f, 1.0f, 1.0f, 1.0f};
 
@@ -61,20 +61,13 @@ void drawRespawnRing(const BitmapWrapper& target, const Player& player) {
     }
 }
 
-bool hasGhostLook(const Player& player) {
-    if (!player.ghost) {
-        return false;
-    }
-    return player.shieldTimer > scaledFrames(blinkFrames) || frameCounter % scaledFrames(10) < 5;
-}
-
 void drawTeamMarker(const BitmapWrapper& target, const Player& player, bool ghostLook) {
     if (player.team < 0 || !isTeamMode(gameOptions.gameMode)) {
         return;
     }
     const ALLEGRO_COLOR colour = teams.at(static_cast<unsigned>(player.team)).colour;
     const auto draw = ghostLook ? drawEllipse : drawFilledEllipse;
-    draw(target, player.x + 16, player.y + 32, 16, 4, colour);
+    draw(target, player.x + halfSquare, player.y + squareSize, teamMarkerWidth, teamMarkerHeight, colour);
 }
 
 void drawAfterimages(const BitmapWrapper& target, const Player& player) {
@@ -103,9 +96,9 @@ void drawSnakeParts(const BitmapWrapper& target, const Player& player, int alpha
 }
 
 void drawTexts(const BitmapWrapper& target, const Player& player) {
-    const int middle = player.x + 16;
+    const int middle = player.centre().x;
     if (!player.controls->isConnected()) {
-        drawText(target, FontId::Builtin, middle, player.y + 32, white, "CONTROLLER LOST", alignCentre);
+        drawText(target, FontId::Builtin, middle, player.y + squareSize, white, "CONTROLLER LOST", alignCentre);
     }
     if (showControllerDebug) {
         drawText(target, FontId::Builtin, middle, player.y + 42, white, player.controls->debugName(), alignCentre);
@@ -119,7 +112,7 @@ void drawRings(const BitmapWrapper& target, const Player& player) {
     const Pixel centre = player.centre();
     if (player.crawling && player.reviveProgress > 0 && player.crawlTimer == 0) {
         const float share = static_cast<float>(player.reviveProgress) / static_cast<float>(reaches.rescueFrames);
-        drawArc(target, centre.x, centre.y, 16, 0.0f, share * fullTurn, white, 6.0f);
+        drawArc(target, centre.x, centre.y, halfSquare, 0.0f, share * fullTurn, white, 6.0f);
     }
     if (player.pingTimer > 0) {
         drawEllipse(target, centre.x, centre.y, player.pingTimer, player.pingTimer, player.look.colour);
@@ -127,7 +120,7 @@ void drawRings(const BitmapWrapper& target, const Player& player) {
 }
 
 void drawLiving(const BitmapWrapper& target, const Player& player) {
-    const bool ghostLook = hasGhostLook(player);
+    const bool ghostLook = player.ghost && !blinksOut(player);
     const int alpha = ghostLook ? accessibility.ghostOpacity : opaque;
     drawTeamMarker(target, player, ghostLook);
     drawAfterimages(target, player);

@@ -19,8 +19,7 @@ int flashOf(const Player& player) {
     if (!player.shield || player.dead) {
         return 0;
     }
-    const bool runningOut = player.shieldTimer <= Player::runningShield();
-    const bool blinks = runningOut && frameCounter % scaledFrames(blinkFrames) >= blinkOnFrames;
+    const bool blinks = blinksOut(player);
     if (player.isSnake()) {
         return blinks ? 0 : 2;
     }
@@ -48,6 +47,11 @@ SpriteKey makeKey(const Player& player, std::optional<int> frame, std::optional<
     key.dead = player.dead;
     key.steering = player.bombType == BombType::RemoteControl && player.remoteActive;
     return key;
+}
+
+bool blinksOut(const Player& player) {
+    const bool runningOut = player.shieldTimer <= Player::runningShield();
+    return runningOut && frameCounter % scaledFrames(blinkFrames) >= blinkOnFrames;
 }
 
 bool PlayerParticle::advance(int updaterate) {

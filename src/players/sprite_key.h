@@ -28,6 +28,9 @@ struct SpriteKey {
 // The key of the player as it stands in this frame, with its own walk frame and facing where none is given.
 SpriteKey makeKey(const Player& player, std::optional<int> frame = {}, std::optional<Facing> facing = {});
 
+// Whether this frame shows a shield or a ghost that runs out without it, or the shield with its other look.
+bool blinksOut(const Player& player);
+
 // A sprite that flies off at a death or from a lost tail. Looks only.
 struct PlayerParticle {
     SpriteKey sprite;

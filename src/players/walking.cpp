@@ -10,7 +10,6 @@ namespace {
 
 constexpr int lastWalkFrame = 6;
 constexpr int crawlFrameEnd = 3;
-constexpr int laneCentre = 16;  // of the centre's place inside its square
 
 }  // namespace
 
@@ -50,7 +49,7 @@ void Player::move(int xDir, int yDir, bool& remoteSteered, const PackagedReplayD
     }
     advanceWalk(pixels);
     const Square here = square();
-    const Square ahead = squareAtPixel({x + 16 + squareSize * xDir, y + 16 + squareSize * yDir});
+    const Square ahead = squareAtPixel(centre() + Pixel{squareSize * xDir, squareSize * yDir});
     const Pixel lane = squareToPixel(here);
     if (isFreeToWalk(ahead)) {
         x += pixels * xDir;
@@ -75,11 +74,11 @@ void Player::move(int xDir, int yDir, bool& remoteSteered, const PackagedReplayD
 
 // Who presses against a block with part of the body past its corner slides round it.
 void Player::assistCorner(int xDir, int pixels, Square ahead) {
-    const int offset = (xDir != 0 ? y + 16 : x + 16) % squareSize;
-    if (offset == laneCentre) {
+    const int offset = (xDir != 0 ? centre().y : centre().x) % squareSize;  // halfway in the middle of the lane
+    if (offset == halfSquare) {
         return;
     }
-    const int side = offset < laneCentre ? -1 : 1;
+    const int side = offset < halfSquare ? -1 : 1;
     const Square step = xDir != 0 ? Square{0, side} : Square{side, 0};
     const Square around = ahead + step;
     if (squareGrid.at(around) != SquareKind::Empty || hasBomb(around)) {

@@ -246,7 +246,7 @@ int countBombs(const Player& owner) {
 
 bool isFlame(const Game& game, Square square) {
     return std::any_of(game.explosions.begin(), game.explosions.end(),
-                       [&](const Explosion& flame) { return flame.isLive() && flame.isOn(square); });
+                       [&](const Explosion& flame) { return flame.isLive() && flame.square() == square; });
 }
 
 std::ostream& operator<<(std::ostream& out, const HeardSample& sample) {
