@@ -35,6 +35,14 @@ float polygonDistance(const std::vector<Point>& points, float x, float y) {
     return inside ? -nearest : nearest;
 }
 
+// Widens the shape's bounds so that they hold these, too.
+void enclose(Shape& shape, float left, float top, float right, float bottom) {
+    shape.left = std::min(shape.left, left);
+    shape.top = std::min(shape.top, top);
+    shape.right = std::max(shape.right, right);
+    shape.bottom = std::max(shape.bottom, bottom);
+}
+
 }  // namespace
 
 Shape circle(float x, float y, float radius) {
@@ -86,10 +94,7 @@ Shape polygon(std::vector<Point> points) {
     }
     Shape shape{nullptr, points[0].x, points[0].y, points[0].x, points[0].y};
     for (const Point& point : points) {
-        shape.left = std::min(shape.left, point.x);
-        shape.right = std::max(shape.right, point.x);
-        shape.top = std::min(shape.top, point.y);
-        shape.bottom = std::max(shape.bottom, point.y);
+        enclose(shape, point.x, point.y, point.x, point.y);
     }
     shape.distance = [corners = std::move(points)](float x, float y) { return polygonDistance(corners, x, y); };
     return shape;
@@ -155,10 +160,7 @@ Shape uniteAll(std::vector<Shape> shapes) {
     }
     Shape result{nullptr, shapes[0].left, shapes[0].top, shapes[0].right, shapes[0].bottom};
     for (const Shape& shape : shapes) {
-        result.left = std::min(result.left, shape.left);
-        result.top = std::min(result.top, shape.top);
-        result.right = std::max(result.right, shape.right);
-        result.bottom = std::max(result.bottom, shape.bottom);
+        enclose(result, shape.left, shape.top, shape.right, shape.bottom);
     }
     result.distance = [parts = std::move(shapes)](float x, float y) {
         float nearest = std::numeric_limits<float>::max();
@@ -218,10 +220,7 @@ Shape rotated(Shape shape, float aboutX, float aboutY, float radians) {
         for (const float cornerY : {shape.top, shape.bottom}) {
             const float x = aboutX + (cornerX - aboutX) * cosine - (cornerY - aboutY) * sine;
             const float y = aboutY + (cornerX - aboutX) * sine + (cornerY - aboutY) * cosine;
-            result.left = std::min(result.left, x);
-            result.right = std::max(result.right, x);
-            result.top = std::min(result.top, y);
-            result.bottom = std::max(result.bottom, y);
+            enclose(result, x, y, x, y);
         }
     }
     result.distance = [inner = std::move(shape.distance), aboutX, aboutY, cosine, sine](float x, float y) {
