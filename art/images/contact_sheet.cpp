@@ -2,12 +2,11 @@
 //
 //     draw_contact_sheet IMAGES_DIRECTORY SHEET.png
 #include <algorithm>
-#include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "files/program.h"
 #include "painter/letters.h"
 #include "painter/png_file.h"
 
@@ -90,15 +89,6 @@ void drawSheet(const fs::path& images, const fs::path& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: %s IMAGES_DIRECTORY SHEET.png\n", argv[0]);
-        return 2;
-    }
-    try {
-        drawSheet(argv[1], argv[2]);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s: %s\n", argv[0], error.what());
-        return 1;
-    }
-    return 0;
+    return runProgram(argc, argv, 2, 2, "IMAGES_DIRECTORY SHEET.png",
+                      [](const std::vector<std::string>& words) { drawSheet(words[0], words[1]); });
 }

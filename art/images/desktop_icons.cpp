@@ -1,13 +1,12 @@
 // The icons by which desktops show the installed game: PNG files from 16 to 256 pixels and one that scales, laid out as
 // the icon theme wants them, <size>/apps/vandrel.<type>.
 #include <array>
-#include <cstdio>
-#include <exception>
 #include <filesystem>
-#include <fstream>
-#include <stdexcept>
 #include <string>
+#include <vector>
 
+#include "files/program.h"
+#include "files/whole_file.h"
 #include "images/icon_pictures.h"
 #include "painter/png_file.h"
 
@@ -39,16 +38,6 @@ std::string scalable(const Canvas& picture) {
     return text + "</svg>\n";
 }
 
-void writeText(const std::string& text, const std::filesystem::path& path) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file << text;
-    file.close();
-    if (!file) {
-        throw std::runtime_error("Could not write " + path.string());
-    }
-}
-
 void writeIcons(const std::filesystem::path& directory) {
     const Canvas small = smallIcon(), large = largeIcon();
     for (const int size : sizes) {
@@ -58,21 +47,12 @@ void writeIcons(const std::filesystem::path& directory) {
             size % large.width() == 0 ? large.scaled(size / large.width()) : small.scaled(size / small.width());
         writePng(picture, folder / "vandrel.png");
     }
-    writeText(scalable(large), directory / "scalable" / "apps" / "vandrel.svg");
+    writeWholeFile(directory / "scalable" / "apps" / "vandrel.svg", scalable(large));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: %s DIRECTORY\n", argv[0]);
-        return 2;
-    }
-    try {
-        writeIcons(argv[1]);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s: %s\n", argv[0], error.what());
-        return 1;
-    }
-    return 0;
+    return runProgram(argc, argv, 1, 1, "DIRECTORY",
+                      [](const std::vector<std::string>& words) { writeIcons(words[0]); });
 }

@@ -1,4 +1,4 @@
-// What every recipe in this folder offers: the pictures of one family, by name. write_pictures.cpp turns them into
+// What every recipe in this folder offers: the pictures of one family, by name. write_family.h turns them into
 // files.
 #pragma once
 

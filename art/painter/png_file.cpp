@@ -2,9 +2,9 @@
 
 #include <png.h>
 
-#include <fstream>
 #include <stdexcept>
-#include <string>
+
+#include "files/whole_file.h"
 
 namespace vandrel::art {
 namespace {
@@ -16,8 +16,7 @@ namespace {
 void ignoreWarning(png_structp, png_const_charp) {}
 
 void append(png_structp png, png_bytep bytes, std::size_t count) {
-    auto& sink = *static_cast<std::vector<std::uint8_t>*>(png_get_io_ptr(png));
-    sink.insert(sink.end(), bytes, bytes + count);
+    static_cast<std::string*>(png_get_io_ptr(png))->append(reinterpret_cast<const char*>(bytes), count);
 }
 
 void flushNothing(png_structp) {}
@@ -32,44 +31,54 @@ struct Writer {
     ~Writer() { png_destroy_write_struct(&png, &info); }
 };
 
+int filterBits(PngFilter filter) {
+    switch (filter) {
+        case PngFilter::Up:
+            return PNG_FILTER_UP;
+        case PngFilter::All:
+            return PNG_ALL_FILTERS;
+        case PngFilter::None:
+            break;
+    }
+    return PNG_FILTER_NONE;
+}
+
 }  // namespace
 
-std::vector<std::uint8_t> encodePng(const Canvas& canvas) {
-    std::vector<std::uint8_t> bytes;
+std::string encodePng(const PngForm& form,
+                      const std::function<void(int y, std::vector<std::uint8_t>& row)>& appendRow) {
+    std::string bytes;
     Writer writer;
     png_set_write_fn(writer.png, &bytes, append, flushNothing);
     png_set_compression_level(writer.png, 9);
-    png_set_filter(writer.png, PNG_FILTER_TYPE_BASE, canvas.width() > 256 ? PNG_ALL_FILTERS : PNG_FILTER_NONE);
-    png_set_IHDR(writer.png, writer.info, static_cast<png_uint_32>(canvas.width()),
-                 static_cast<png_uint_32>(canvas.height()), 8, PNG_COLOR_TYPE_RGB_ALPHA, PNG_INTERLACE_NONE,
+    png_set_filter(writer.png, PNG_FILTER_TYPE_BASE, filterBits(form.filter));
+    png_set_IHDR(writer.png, writer.info, static_cast<png_uint_32>(form.width), static_cast<png_uint_32>(form.height),
+                 8, form.alpha ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_write_info(writer.png, writer.info);
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(canvas.width()) * 4);
-    for (int y = 0; y < canvas.height(); ++y) {
-        auto byte = row.begin();
-        for (int x = 0; x < canvas.width(); ++x) {
-            const Colour pixel = canvas.at(x, y);
-            for (const std::uint8_t channel : {pixel.red, pixel.green, pixel.blue, pixel.alpha}) {
-                *byte++ = channel;
-            }
-        }
+    std::vector<std::uint8_t> row;
+    for (int y = 0; y < form.height; ++y) {
+        row.clear();
+        appendRow(y, row);
         png_write_row(writer.png, row.data());
     }
     png_write_end(writer.png, writer.info);
     return bytes;
 }
 
+std::string encodePng(const Canvas& canvas) {
+    constexpr int widestUnfiltered = 256;
+    const PngFilter filter = canvas.width() > widestUnfiltered ? PngFilter::All : PngFilter::None;
+    return encodePng({canvas.width(), canvas.height(), true, filter}, [&](int y, std::vector<std::uint8_t>& row) {
+        for (int x = 0; x < canvas.width(); ++x) {
+            const Colour pixel = canvas.at(x, y);
+            row.insert(row.end(), {pixel.red, pixel.green, pixel.blue, pixel.alpha});
+        }
+    });
+}
+
 void writePng(const Canvas& canvas, const std::filesystem::path& path) {
-    const std::vector<std::uint8_t> bytes = encodePng(canvas);
-    if (path.has_parent_path()) {
-        std::filesystem::create_directories(path.parent_path());
-    }
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (!file) {
-        throw std::runtime_error("Could not write " + path.string());
-    }
+    writeWholeFile(path, encodePng(canvas));
 }
 
 Canvas readPng(const std::filesystem::path& path) {

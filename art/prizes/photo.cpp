@@ -1,14 +1,12 @@
 #include "prizes/photo.h"
 
-#include <png.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <memory>
-#include <stdexcept>
 #include <vector>
+
+#include "files/whole_file.h"
+#include "painter/png_file.h"
 
 namespace vandrel::art {
 namespace {
@@ -16,54 +14,6 @@ namespace {
 constexpr Colour cornerShade{16, 10, 30};
 constexpr Colour paper{248, 242, 228};
 constexpr Colour paperShade{206, 196, 176};
-
-[[noreturn]] void refuse(png_structp, png_const_charp message) {
-    throw std::runtime_error(message);
-}
-
-void ignoreWarning(png_structp, png_const_charp) {}
-
-struct Writer {
-    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, refuse, ignoreWarning);
-    png_infop info = png_create_info_struct(png);
-
-    Writer() = default;
-    Writer(const Writer&) = delete;
-    Writer& operator=(const Writer&) = delete;
-    ~Writer() { png_destroy_write_struct(&png, &info); }
-};
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
-void encode(const Canvas& small, std::FILE* file) {
-    Writer writer;
-    png_init_io(writer.png, file);
-    png_set_compression_level(writer.png, 9);
-    // Seven rows of eight equal the one above, which this filter turns into zeros.
-    png_set_filter(writer.png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
-    png_set_IHDR(writer.png, writer.info, static_cast<png_uint_32>(small.width() * photoScale),
-                 static_cast<png_uint_32>(small.height() * photoScale), 8, PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
-                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_write_info(writer.png, writer.info);
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(small.width() * photoScale) * 3);
-    for (int y = 0; y < small.height(); ++y) {
-        auto byte = row.begin();
-        for (int x = 0; x < small.width(); ++x) {
-            const Colour pixel = small.at(x, y);
-            for (int copy = 0; copy < photoScale; ++copy) {
-                *byte++ = pixel.red;
-                *byte++ = pixel.green;
-                *byte++ = pixel.blue;
-            }
-        }
-        for (int copy = 0; copy < photoScale; ++copy) {
-            png_write_row(writer.png, row.data());
-        }
-    }
-    png_write_end(writer.png, writer.info);
-}
 
 }  // namespace
 
@@ -96,17 +46,15 @@ Canvas framed(const Canvas& scene) {
 }
 
 void writePhoto(const Canvas& scene, const std::filesystem::path& path) {
-    if (path.has_parent_path()) {
-        std::filesystem::create_directories(path.parent_path());
-    }
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path.c_str(), "wb"));
-    if (!file) {
-        throw std::runtime_error("Could not write " + path.string());
-    }
-    encode(framed(scene), file.get());
-    if (std::fflush(file.get()) != 0) {
-        throw std::runtime_error("Could not write " + path.string());
-    }
+    const Canvas photo = framed(scene);
+    // Seven rows of eight equal the one above, which this filter turns into zeros.
+    const PngForm form{photo.width() * photoScale, photo.height() * photoScale, false, PngFilter::Up};
+    writeWholeFile(path, encodePng(form, [&](int y, std::vector<std::uint8_t>& row) {
+                       for (int x = 0; x < form.width; ++x) {
+                           const Colour pixel = photo.at(x / photoScale, y / photoScale);
+                           row.insert(row.end(), {pixel.red, pixel.green, pixel.blue});
+                       }
+                   }));
 }
 
 }  // namespace vandrel::art

@@ -2,11 +2,10 @@
 //
 //     draw_prize_sheet PRIZES_DIRECTORY SHEET.png
 #include <algorithm>
-#include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <vector>
 
+#include "files/program.h"
 #include "painter/letters.h"
 #include "painter/png_file.h"
 #include "prizes/photo.h"
@@ -53,15 +52,6 @@ void drawSheet(const fs::path& directory, const fs::path& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: %s PRIZES_DIRECTORY SHEET.png\n", argv[0]);
-        return 2;
-    }
-    try {
-        drawSheet(argv[1], argv[2]);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s: %s\n", argv[0], error.what());
-        return 1;
-    }
-    return 0;
+    return runProgram(argc, argv, 2, 2, "PRIZES_DIRECTORY SHEET.png",
+                      [](const std::vector<std::string>& words) { drawSheet(words[0], words[1]); });
 }

@@ -10,6 +10,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "files/whole_file.h"
+
 namespace vandrel {
 
 namespace {
@@ -52,18 +54,6 @@ void appendFrame(std::string& bytes, double value) {
     appendNumber(bytes, static_cast<std::uint32_t>(step), 2);
 }
 
-void writeBytes(const std::filesystem::path& path, const std::string& bytes) {
-    if (path.has_parent_path()) {
-        std::filesystem::create_directories(path.parent_path());
-    }
-    std::ofstream file(path, std::ios::binary);
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (!file) {
-        throw std::runtime_error(fmt::format("cannot write {}", path.string()));
-    }
-}
-
 }  // namespace
 
 void writeWav(const std::filesystem::path& path, const Signal& signal) {
@@ -71,7 +61,7 @@ void writeWav(const std::filesystem::path& path, const Signal& signal) {
     for (const double value : signal) {
         appendFrame(bytes, value);
     }
-    writeBytes(path, bytes);
+    art::writeWholeFile(path, bytes);
 }
 
 void writeWav(const std::filesystem::path& path, const StereoSignal& signal) {
@@ -80,7 +70,7 @@ void writeWav(const std::filesystem::path& path, const StereoSignal& signal) {
         appendFrame(bytes, signal.left[frame]);
         appendFrame(bytes, signal.right[frame]);
     }
-    writeBytes(path, bytes);
+    art::writeWholeFile(path, bytes);
 }
 
 Signal readMonoWav(const std::filesystem::path& path) {

@@ -1,4 +1,5 @@
-// Mono WAV files of 16 bits: written for the game's sounds, read back by the measuring tool and the tests.
+// WAV files of 16 bits: written for the game's sounds, which are mono, and for a score in the making; sounds are read
+// back by the measuring tool and the tests.
 #pragma once
 
 #include <filesystem>

@@ -4,14 +4,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <exception>
 #include <filesystem>
+#include <limits>
 #include <numeric>
 
 #include "audio/synth/wav_file.h"
 #include "audio/tunes/loudness.h"
 #include "audio/tunes/ogg_file.h"
+#include "files/program.h"
 
 namespace {
 
@@ -45,17 +45,16 @@ void measureTune(const std::filesystem::path& path) {
 
 }  // namespace
 
-int main(int argc, char** argv) try {
-    for (int i = 1; i < argc; ++i) {
-        const std::filesystem::path path(argv[i]);
-        if (path.extension() == ".ogg") {
-            measureTune(path);
-        } else {
-            measureSound(path);
+int main(int argc, char** argv) {
+    constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
+    return vandrel::art::runProgram(argc, argv, 1, anyNumber, "FILE...", [](const std::vector<std::string>& words) {
+        for (const std::string& word : words) {
+            const std::filesystem::path path(word);
+            if (path.extension() == ".ogg") {
+                measureTune(path);
+            } else {
+                measureSound(path);
+            }
         }
-    }
-    return 0;
-} catch (const std::exception& error) {
-    fmt::print(stderr, "{}\n", error.what());
-    return 1;
+    });
 }

@@ -2,23 +2,16 @@
 // Usage: PROGRAM FOLDER
 #include <fmt/format.h>
 
-#include <cstdio>
-#include <exception>
 #include <filesystem>
 
 #include "audio/sounds/sound.h"
 #include "audio/synth/wav_file.h"
+#include "files/program.h"
 
-int main(int argc, char** argv) try {
-    if (argc != 2) {
-        fmt::print(stderr, "usage: {} FOLDER\n", argv[0]);
-        return 2;
-    }
-    for (const vandrel::Sound& sound : vandrel::VANDREL_SOUND_FAMILY()) {
-        vandrel::writeWav(std::filesystem::path(argv[1]) / fmt::format("{}.wav", sound.name), sound.make());
-    }
-    return 0;
-} catch (const std::exception& error) {
-    fmt::print(stderr, "{}\n", error.what());
-    return 1;
+int main(int argc, char** argv) {
+    return vandrel::art::runProgram(argc, argv, 1, 1, "FOLDER", [](const std::vector<std::string>& words) {
+        for (const vandrel::Sound& sound : vandrel::VANDREL_SOUND_FAMILY()) {
+            vandrel::writeWav(std::filesystem::path(words[0]) / fmt::format("{}.wav", sound.name), sound.make());
+        }
+    });
 }

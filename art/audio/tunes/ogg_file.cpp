@@ -5,9 +5,10 @@
 #include <vorbis/vorbisfile.h>
 
 #include <algorithm>
-#include <fstream>
 #include <stdexcept>
 #include <utility>
+
+#include "files/whole_file.h"
 
 namespace vandrel {
 
@@ -105,16 +106,7 @@ class Encoder {
 }  // namespace
 
 void writeOgg(const std::filesystem::path& path, const StereoSignal& signal, const std::string& title) {
-    const std::string bytes = Encoder(title).encode(signal);
-    if (path.has_parent_path()) {
-        std::filesystem::create_directories(path.parent_path());
-    }
-    std::ofstream file(path, std::ios::binary);
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (!file) {
-        throw std::runtime_error(fmt::format("cannot write {}", path.string()));
-    }
+    art::writeWholeFile(path, Encoder(title).encode(signal));
 }
 
 StereoSignal readOgg(const std::filesystem::path& path) {
