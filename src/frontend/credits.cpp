@@ -6,9 +6,9 @@
 #include <cmath>
 #include <string_view>
 
-#include "base/colour.h"
 #include "frontend/title.h"
 #include "input/menu_input.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/frame_pump.h"
@@ -24,7 +24,6 @@ struct RowStyle {
     RGB colour;
 };
 
-constexpr RGB white{255, 255, 255};
 constexpr RowStyle pinkHeading{FontId::Font24, 33, {255, 208, 208}};
 constexpr RowStyle greenHeading{FontId::Font24, 33, {208, 255, 208}};
 constexpr RowStyle blueHeading{FontId::Font24, 33, {208, 208, 255}};

@@ -14,6 +14,7 @@
 #include "input/menu_input.h"
 #include "players/player.h"
 #include "players/players_drawing.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 
@@ -21,7 +22,6 @@ namespace vandrel {
 
 namespace {
 
-constexpr RGB white{255, 255, 255};
 constexpr RGB grey{128, 128, 128};
 constexpr RGB red{255, 32, 32};
 

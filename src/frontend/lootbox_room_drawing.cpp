@@ -4,6 +4,7 @@
 
 #include "frontend/space_prompt.h"
 #include "presentation/bitmaps.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 
@@ -16,7 +17,7 @@ constexpr int captionPercent = 2;  // of the screen's width, not of its height
 constexpr int promptPercent = 95;
 
 void drawCentred(const BitmapWrapper& target, int y, const std::string& text) {
-    drawText(target, FontId::Font30, target.width() / 2, y, al_map_rgb(255, 255, 255), text, alignCentre);
+    drawText(target, FontId::Font30, target.width() / 2, y, toColour(white), text, alignCentre);
 }
 
 void drawPrize(const Prize& prize, const BitmapWrapper& target) {

@@ -15,6 +15,7 @@
 #include "input/keyboard.h"
 #include "input/menu_input.h"
 #include "match/options/game_options.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/ogg_music.h"
 #include "presentation/text.h"
@@ -57,14 +58,14 @@ void update(MenuContext& context, TitleFigure& figure) {
     figure.clock += figureStep;
 }
 
-void drawVersion(ALLEGRO_COLOR colour) {
+void drawVersion() {
     const std::string text = versionText(replayOutputVersion);
     const int width = versionCellWidth * static_cast<int>(text.size());
-    drawText(*screen, FontId::Font30, screen->width() - width, screen->height() - versionAboveBottom, colour, text);
+    drawText(*screen, FontId::Font30, screen->width() - width, screen->height() - versionAboveBottom, toColour(white),
+             text);
 }
 
 void draw(const MenuContext& context, const TitleFigure& figure) {
-    const ALLEGRO_COLOR white = toColour({255, 255, 255});
     clearToBlack(*screen);
     if (!context.welcomePending) {
         drawTitleWithCaption(*screen);
@@ -76,10 +77,10 @@ void draw(const MenuContext& context, const TitleFigure& figure) {
         return;
     }
     figure.draw(*screen);
-    drawVersion(white);
+    drawVersion();
     if (context.stack.menus.size() == 1) {
         for (const ContactLine& line : contactLines) {
-            drawText(*screen, FontId::Font30, screen->width() / 2, screen->height() - line.aboveBottom, white,
+            drawText(*screen, FontId::Font30, screen->width() / 2, screen->height() - line.aboveBottom, toColour(white),
                      line.text, alignCentre);
         }
     }

@@ -11,6 +11,7 @@
 #include "frontend/title.h"
 #include "frontend/vandrel_menu.h"
 #include "input/menu_input.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/config.h"
@@ -120,14 +121,13 @@ void addWindowRows(VandrelMenu& menu, int x, ScreenMode& selection) {
 }
 
 void drawScreenMode(const VandrelMenu& menu, const ScreenMode& selection) {
-    const ALLEGRO_COLOR white = toColour({255, 255, 255});
     clearToBlack(*screen);
     drawTitle(*screen);
     menu.draw(*screen);
     drawWrappedText(*screen, "Current mode: " + labelOf(presentMode()), currentModeAt.x, currentModeAt.y, textRowHeight,
-                    white);
+                    toColour(white));
     drawWrappedText(*screen, "Selected mode: " + labelOf(selection), selectedModeAt.x, selectedModeAt.y, textRowHeight,
-                    white);
+                    toColour(white));
     if (alwaysShowFPS) {
         drawFrameRate(FontId::Font30);
     }

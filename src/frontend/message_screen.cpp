@@ -6,6 +6,7 @@
 #include <boost/algorithm/string.hpp>
 
 #include "input/menu_input.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/frame_pump.h"
@@ -21,7 +22,7 @@ void drawRows(const std::vector<std::string>& rows) {
     clearToBlack(*screen);
     int y = screen->height() / 2 - static_cast<int>(rows.size()) * rowHeight + rowHeight;
     for (const std::string& row : rows) {
-        drawText(*screen, FontId::Font30, screen->width() / 2, y, al_map_rgb(255, 255, 255), row, alignCentre);
+        drawText(*screen, FontId::Font30, screen->width() / 2, y, toColour(white), row, alignCentre);
         y += rowHeight;
     }
 }

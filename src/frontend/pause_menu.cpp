@@ -11,6 +11,7 @@
 #include "frontend/menu_stack.h"
 #include "input/menu_input.h"
 #include "players/player.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/frame_pump.h"
@@ -33,9 +34,9 @@ std::shared_ptr<BitmapWrapper> makeBackdrop(bool dim) {
     clearToBlack(*backdrop);
     drawWrapper(*screen, *backdrop, 0, 0);
     if (dim) {
-        const BitmapWrapper black(screen->width(), screen->height(), preserve);
-        clearToBlack(black);
-        drawTinted(*backdrop, black.bitmap, 0, 0, dimming, dimming, dimming, dimming);
+        const BitmapWrapper darkness(screen->width(), screen->height(), preserve);
+        clearToBlack(darkness);
+        drawTinted(*backdrop, darkness.bitmap, 0, 0, dimming, dimming, dimming, dimming);
     }
     return backdrop;
 }
@@ -56,7 +57,7 @@ void waitForBombButtons(const BitmapWrapper& backdrop) {
     }
     const auto draw = [&backdrop] {
         drawWrapper(backdrop, *screen, 0, 0);
-        drawText(*screen, FontId::Font30, screen->width() / 2, screen->height() / 2, toColour({255, 255, 255}),
+        drawText(*screen, FontId::Font30, screen->width() / 2, screen->height() / 2, toColour(white),
                  "Release bomb button to resume!", alignCentre);
     };
     framePump([] {}, draw, [] { return !anyBombButtonHeld(); });

@@ -1,7 +1,7 @@
 #include "frontend/title.h"
 
-#include "base/colour.h"
 #include "presentation/bitmaps.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 
@@ -14,8 +14,8 @@ void drawTitle(const BitmapWrapper& target) {
 void drawTitleWithCaption(const BitmapWrapper& target) {
     constexpr int distance = 10;  // pixels
     drawTitle(target);
-    drawText(target, FontId::Font30, target.width() / 2, bitmapHeight(BitmapIds::VLogo3) + distance,
-             toColour({255, 255, 255}), "20th anniversary edition!", alignCentre);
+    drawText(target, FontId::Font30, target.width() / 2, bitmapHeight(BitmapIds::VLogo3) + distance, toColour(white),
+             "20th anniversary edition!", alignCentre);
 }
 
 }  // namespace vandrel

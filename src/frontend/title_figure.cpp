@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/checked.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 
 namespace vandrel {
@@ -61,26 +62,24 @@ Pixel TitleFigure::liftedPosition(int id) const {
 }
 
 void TitleFigure::drawDot(const BitmapWrapper& target, Pixel at) const {
-    const ALLEGRO_COLOR white = al_map_rgb(255, 255, 255);
     if (dotSize == 1) {
-        putPixel(target, at.x, at.y, white);
+        putPixel(target, at.x, at.y, toColour(white));
         return;
     }
     const Pixel corner = at - Pixel{dotSize / 2, dotSize / 2};
-    drawFilledRectangle(target, corner.x, corner.y, corner.x + dotSize, corner.y + dotSize, white);
+    drawFilledRectangle(target, corner.x, corner.y, corner.x + dotSize, corner.y + dotSize, toColour(white));
 }
 
 void TitleFigure::draw(const BitmapWrapper& target) const {
-    const ALLEGRO_COLOR white = al_map_rgb(255, 255, 255);
     for (const auto& [first, second] : lines) {
         const Pixel from = liftedPosition(first);
         const Pixel to = liftedPosition(second);
-        drawLine(target, from.x, from.y, to.x, to.y, white, lineThickness);
+        drawLine(target, from.x, from.y, to.x, to.y, toColour(white), lineThickness);
     }
     for (const auto& [first, second] : boxes) {
         const Pixel from = liftedPosition(first);
         const Pixel to = liftedPosition(second);
-        drawRectangle(target, from.x, from.y, to.x, to.y, white, lineThickness);
+        drawRectangle(target, from.x, from.y, to.x, to.y, toColour(white), lineThickness);
     }
     for (const int id : dots) {
         drawDot(target, liftedPosition(id));

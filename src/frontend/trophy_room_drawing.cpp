@@ -6,6 +6,7 @@
 #include "players/player.h"
 #include "players/sprites_drawing.h"
 #include "presentation/bitmaps.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 
@@ -20,8 +21,6 @@ constexpr int promptAboveBottom = 20;
 constexpr int barWidth = 16;
 constexpr int barHeight = 4;
 constexpr int standingFrame = 1;
-
-const ALLEGRO_COLOR white{1.0f, 1.0f, 1.0f, 1.0f};
 
 void drawFigure(TrophyShow& show, const Player& player, Pixel pivot, const BitmapWrapper& target) {
     float rotation = 0.0f;
@@ -62,13 +61,14 @@ void drawTrophyRoom(TrophyShow& show, const std::string& text, const BitmapWrapp
         }
     }
     if (show.matchOver()) {
-        drawText(target, FontId::Builtin, middle, headlineTop, white, "Final Score", alignCentre);
+        drawText(target, FontId::Builtin, middle, headlineTop, toColour(white), "Final Score", alignCentre);
     }
     if (show.promptShown()) {
-        drawText(target, FontId::Builtin, middle, target.height() - promptAboveBottom, white, spacePrompt, alignCentre);
+        drawText(target, FontId::Builtin, middle, target.height() - promptAboveBottom, toColour(white), spacePrompt,
+                 alignCentre);
     }
     if (!text.empty()) {
-        drawText(target, FontId::Builtin, 0, textTop, white, text);
+        drawText(target, FontId::Builtin, 0, textTop, toColour(white), text);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <allegro5/allegro_primitives.h>
 
 #include "presentation/bitmaps.h"
+#include "presentation/colours.h"
 #include "presentation/plain_shader.h"
 #include "presentation/recolour_shader.h"
 
@@ -119,7 +120,7 @@ void clearTo(const BitmapWrapper& target, ALLEGRO_COLOR colour) {
 }
 
 void clearToBlack(const BitmapWrapper& target) {
-    clearTo(target, al_map_rgb(0, 0, 0));
+    clearTo(target, toColour(black));
 }
 
 void drawBitmap(const BitmapWrapper& target, ALLEGRO_BITMAP* bitmap, int x, int y, int flip, int alpha) {
@@ -152,9 +153,8 @@ void drawTinted(const BitmapWrapper& target, ALLEGRO_BITMAP* bitmap, int x, int 
 void drawRotated(const BitmapWrapper& target, ALLEGRO_BITMAP* bitmap, int centreX, int centreY, int x, int y,
                  float angle, float scale, int alpha) {
     prepareDraw(target, bitmap);
-    const ALLEGRO_COLOR tint = alpha == opaque ? al_map_rgb(255, 255, 255) : tintOf(alpha);
-    al_draw_tinted_scaled_rotated_bitmap(bitmap, tint, real(centreX), real(centreY), real(x), real(y), scale, scale,
-                                         angle / anglePerRadian, 0);
+    al_draw_tinted_scaled_rotated_bitmap(bitmap, tintOf(alpha), real(centreX), real(centreY), real(x), real(y), scale,
+                                         scale, angle / anglePerRadian, 0);
 }
 
 void drawRotatedId(const BitmapWrapper& target, BitmapIds id, int centreX, int centreY, int x, int y, float angle,

@@ -12,6 +12,7 @@
 
 #include "base/random.h"
 #include "input/menu_input.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/frame_pump.h"
@@ -29,17 +30,13 @@ constexpr int picturesPerFrame = 4000;
 constexpr int pictureColumns = 1921;  // from one edge of the menu screen to the other, the edges included
 constexpr int pictureRows = 1081;
 
-ALLEGRO_COLOR white() {
-    return al_map_rgb(255, 255, 255);
-}
-
 void announcePass(std::size_t pass) {
     constexpr int rowHeight = 40;
     const int centre = gameScreenWidth / 2;
     const int top = gameScreenHeight / 2 - rowHeight;
     clearToBlack(*screen);
-    drawText(*screen, FontId::Font30, centre, top, white(), passTitles[pass], alignCentre);
-    drawText(*screen, FontId::Font30, centre, top + rowHeight, white(), "This will take about 1-5 seconds",
+    drawText(*screen, FontId::Font30, centre, top, toColour(white), passTitles[pass], alignCentre);
+    drawText(*screen, FontId::Font30, centre, top + rowHeight, toColour(white), "This will take about 1-5 seconds",
              alignCentre);
     presentFrame();
 }
@@ -73,9 +70,9 @@ void drawPictures(const std::array<double, 2>& seconds) {
             drawId(*screen, BitmapIds::Snail, x, y);
         }
     }
-    drawText(*screen, FontId::Font30, 0, 100, white(), "Unbuffered/buffered file stream results:");
-    drawText(*screen, FontId::Font30, 0, 180, white(), fmt::format("{}", seconds[0]));
-    drawText(*screen, FontId::Font30, 0, 260, white(), fmt::format("{}", seconds[1]));
+    drawText(*screen, FontId::Font30, 0, 100, toColour(white), "Unbuffered/buffered file stream results:");
+    drawText(*screen, FontId::Font30, 0, 180, toColour(white), fmt::format("{}", seconds[0]));
+    drawText(*screen, FontId::Font30, 0, 260, toColour(white), fmt::format("{}", seconds[1]));
 }
 
 }  // namespace

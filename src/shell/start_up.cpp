@@ -21,6 +21,7 @@
 #include "input/menu_input.h"
 #include "match/options/game_options.h"
 #include "presentation/bitmaps.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/plain_shader.h"
 #include "presentation/recolour_shader.h"
@@ -149,7 +150,7 @@ void showSplash() {
     constexpr int above = 80;  // pixels from the top of the text to the middle
     constexpr double rest = 1.5;
     drawText(*displayBitmap, FontId::Font64, displayBitmap->width() / 2, displayBitmap->height() / 2 - above,
-             al_map_rgb(255, 255, 255), "QUILLMERE INDUSTRIES", alignCentre);
+             toColour(white), "QUILLMERE INDUSTRIES", alignCentre);
     al_flip_display();
     al_rest(rest);
 }
