@@ -13,7 +13,6 @@
 #include "input/keyboard.h"
 #include "input/menu_input.h"
 #include "presentation/drawing.h"
-#include "presentation/text.h"
 #include "shell/frame_counter.h"
 #include "shell/frame_overlay.h"
 #include "shell/frame_pump.h"
@@ -31,10 +30,6 @@ constexpr int mostUpdatesBetweenPaintings = 4;
 constexpr int testUpdatesBetweenPaintings = 60;
 constexpr int overlayRow = 10;  // pixels
 
-void drawCornerText(const std::string& text, int y, FontId font) {
-    drawText(*screen, font, 0, y, toColour({255, 255, 255}), text, alignLeft);
-}
-
 }  // namespace
 
 FrameLoopWorld realWorld() {
@@ -44,8 +39,8 @@ FrameLoopWorld realWorld() {
     world.fastForwardToggled = [] { return wasKeyReleased(ALLEGRO_KEY_F8); };
     world.pause = [](const std::shared_ptr<Music>& music) { return pauseCheck() && pauseMenu(music, false); };
     world.paint = [](Game& game) { drawGame(game, *screen, false); };
-    world.writeOverlay = [](const std::string& text, int y) { drawCornerText(text, y, FontId::Builtin); };
-    world.writeTimings = [](const std::string& text) { drawCornerText(text, 0, timingFont()); };
+    world.writeOverlay = [](const std::string& text, int y) { drawOverlayText(text, y, FontId::Builtin); };
+    world.writeTimings = [](const std::string& text) { drawOverlayText(text, 0, timingFont()); };
     world.writeFrameRate = [] { drawFrameRate(FontId::Builtin); };
     world.present = [] { presentFrame(); };
     return world;

@@ -3,8 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <string>
 
+#include "presentation/colours.h"
 #include "presentation/text.h"
 #include "shell/game_screen.h"
 #include "shell/timing.h"
@@ -15,14 +15,14 @@ namespace {
 constexpr double millisecondsPerSecond = 1000.0;
 constexpr double shortestFrame = 0.0001;  // seconds; a first frame has no frame before it
 
-void drawInCorner(FontId font, const std::string& text) {
-    drawText(*screen, font, 0, 0, al_map_rgb(255, 255, 255), text);
-}
-
 }  // namespace
 
+void drawOverlayText(const std::string& text, int y, FontId font) {
+    drawText(*screen, font, 0, y, toColour(white), text);
+}
+
 void drawFrameRate(FontId font) {
-    drawInCorner(font, fmt::format("{:.2f}fps", frameRateFigure()));
+    drawOverlayText(fmt::format("{:.2f}fps", frameRateFigure()), 0, font);
 }
 
 FontId timingFont() {
@@ -30,12 +30,12 @@ FontId timingFont() {
 }
 
 void drawTimingLine(const FrameTimes& times) {
-    drawInCorner(timingFont(),
-                 fmt::format("Update: {:.1f}ms  Render1: {:.1f}ms  Render2: {:.1f}ms  Frame: {:.1f}ms  "
-                             "Equivalent FPS: {:.1f}",
-                             times.update * millisecondsPerSecond, times.render1 * millisecondsPerSecond,
-                             times.previousRender2 * millisecondsPerSecond, times.previousFrame * millisecondsPerSecond,
-                             1.0 / std::max(times.previousFrame, shortestFrame)));
+    const std::string line =
+        fmt::format("Update: {:.1f}ms  Render1: {:.1f}ms  Render2: {:.1f}ms  Frame: {:.1f}ms  Equivalent FPS: {:.1f}",
+                    times.update * millisecondsPerSecond, times.render1 * millisecondsPerSecond,
+                    times.previousRender2 * millisecondsPerSecond, times.previousFrame * millisecondsPerSecond,
+                    1.0 / std::max(times.previousFrame, shortestFrame));
+    drawOverlayText(line, 0, timingFont());
 }
 
 }  // namespace vandrel

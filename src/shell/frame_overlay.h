@@ -1,6 +1,8 @@
 // The figures that the frame pump and the match draw over the finished picture: the frame rate and the timings.
 #pragma once
 
+#include <string>
+
 #include "presentation/font_id.h"
 
 namespace vandrel {
@@ -12,6 +14,9 @@ struct FrameTimes {
     double previousRender2 = 0.0;
     double previousFrame = 0.0;
 };
+
+// A line of the overlay, in white at the left edge, `y` pixels from the top.
+void drawOverlayText(const std::string& text, int y, FontId font);
 
 // The frame rate figure in the top left corner.
 void drawFrameRate(FontId font = FontId::Builtin);
