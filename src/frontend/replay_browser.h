@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "frontend/menu_stack.h"
-#include "frontend/replay_test.h"
+#include "frontend/play_replays.h"
 
 namespace vandrel {
 

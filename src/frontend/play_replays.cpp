@@ -1,4 +1,4 @@
-#include "frontend/replay_test.h"
+#include "frontend/play_replays.h"
 
 #include "frontend/menu_stack.h"
 #include "match/play_the_game.h"
