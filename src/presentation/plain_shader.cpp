@@ -15,10 +15,7 @@ void createPlainShader() {
 }
 
 void destroyPlainShader() {
-    if (shader != nullptr) {
-        al_destroy_shader(shader);
-        shader = nullptr;
-    }
+    destroyShader(shader);
 }
 
 void startPlainDrawing() {

@@ -30,10 +30,7 @@ void createRecolourShader() {
 }
 
 void destroyRecolourShader() {
-    if (shader != nullptr) {
-        al_destroy_shader(shader);
-        shader = nullptr;
-    }
+    destroyShader(shader);
 }
 
 void useRecolourShader(const RecolourSettings& settings) {

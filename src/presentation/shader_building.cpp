@@ -33,4 +33,11 @@ ALLEGRO_SHADER* buildShader(const char* pixelSource) {
     return shader;
 }
 
+void destroyShader(ALLEGRO_SHADER*& shader) {
+    if (shader != nullptr) {
+        al_destroy_shader(shader);
+        shader = nullptr;
+    }
+}
+
 }  // namespace vandrel
