@@ -90,22 +90,13 @@ void Lobby::setUp(const DeviceList& devices) {
     const ArenaSize& arena = checkedAt(arenaSizes, size.arenaSize);
     setUpRound({arena.width, arena.height}, forSetUp.replay, forSetUp, true);
     spots_ = lobbySpots(deviceCount, size.columns, arenaWidthPixels());
-    makeTeams();
+    if (teams.empty()) {
+        teams = makeTeams(std::min(mostTeams_, static_cast<int>(teamColours.size())));
+    }
     teamMarkers_ = lobbyTeamMarkers(static_cast<int>(teams.size()), arenaWidthPixels(), arenaHeightPixels());
     for (const auto& player : players) {
         player->bombsPlaced = 0;
         bringInside(*player);
-    }
-}
-
-void Lobby::makeTeams() const {
-    if (!teams.empty()) {
-        return;
-    }
-    const std::size_t count = std::min(static_cast<std::size_t>(mostTeams_), teamColours.size());
-    teams.resize(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        teams[i].colour = toColour(teamColours[i]);
     }
 }
 

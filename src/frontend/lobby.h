@@ -58,7 +58,6 @@ class Lobby {
     static std::shared_ptr<Player> holderOf(const Controls& device);
 
   private:
-    void makeTeams() const;
     void bringInside(Player& player) const;
     bool isHoldComplete();
     void testStart();

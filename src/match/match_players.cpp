@@ -43,6 +43,14 @@ std::vector<DeviceHolder> listDeviceHolders() {
     return holders;
 }
 
+std::vector<Team> makeTeams(int count) {
+    std::vector<Team> made(static_cast<std::size_t>(count));
+    for (std::size_t i = 0; i < std::min(made.size(), teamColours.size()); ++i) {
+        made[i].colour = toColour(teamColours[i]);
+    }
+    return made;
+}
+
 int quickStartTeamCount() {
     const int third = gameOptions.numPlayers / 3;
     switch (gameOptions.gameMode) {
@@ -58,12 +66,7 @@ int quickStartTeamCount() {
 }
 
 void makeQuickStartTeams() {
-    const int count = quickStartTeamCount();
-    for (int i = 0; i < count; ++i) {
-        Team team;
-        team.colour = toColour(checkedAt(teamColours, i));
-        teams.push_back(std::move(team));
-    }
+    teams = makeTeams(quickStartTeamCount());
 }
 
 void makeQuickStartPlayers(const DeviceList& devices) {
@@ -93,11 +96,7 @@ void makeSnakeHunterTeams() {
     if (gameOptions.gameMode != GameMode::SnakeHunter) {
         return;
     }
-    constexpr std::size_t teamCount = 2;
-    teams.assign(teamCount, Team{});
-    for (std::size_t i = 0; i < std::min(teamCount, teamColours.size()); ++i) {
-        teams[i].colour = toColour(teamColours[i]);
-    }
+    teams = makeTeams(2);
     for (const auto& player : players) {
         player->team = 0;
         teams.front().members.push_back(player);

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "arena/team.h"
 #include "input/controls_manager.h"
 #include "replay/unit/header.h"
 
@@ -14,6 +15,9 @@ void clearMatch();
 
 // Who holds which device, in the order of the players; those of the computer among them.
 std::vector<DeviceHolder> listDeviceHolders();
+
+// That many teams of nobody, each in its team colour as far as there are so many.
+std::vector<Team> makeTeams(int count);
 
 // The number of teams that quick start makes for `numPlayers` players in this mode.
 int quickStartTeamCount();
