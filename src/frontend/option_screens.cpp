@@ -60,44 +60,48 @@ std::string powerupLabel(int bonus) {
     return std::string(checkedAt(bonusNames, bonus).displayName) + (isQuestion(bonus) ? " (question)" : "");
 }
 
+// A menu with its heading and rows, to which others may be added before `addEnd`.
+std::shared_ptr<VandrelMenu> optionMenu(MenuContext& context, const char* heading, std::span<const OptionRow> rows,
+                                        const VandrelMenuLayoutOptions& layout = layoutDefault) {
+    auto menu = std::make_shared<VandrelMenu>(&layout);
+    menu->addHeading(context.headingX, heading);
+    addOptionRows(*menu, context, rows);
+    return menu;
+}
+
+void addEnd(VandrelMenu& menu, MenuContext& context) {
+    menu.addGap();
+    addBack(menu, context.x, context.stack);
+}
+
 }  // namespace
 
 std::shared_ptr<VandrelMenu> levelMenu(MenuContext& context) {
-    auto menu = std::make_shared<VandrelMenu>(&layoutDefault);
-    menu->addHeading(context.headingX, "Level options");
-    addOptionRows(*menu, context, levelRows);
+    auto menu = optionMenu(context, "Level options", levelRows);
     menu->addGap();
     menu->addAction(context.x, "Player options", [&context] { context.stack.push(playerMenu(context)); });
     menu->addAction(context.x, "Snake Hunter options", [&context] { context.stack.push(snakeHunterMenu(context)); });
     menu->addAction(context.x, "Customise powerups", [&context] { context.stack.push(powerupsMenu(context)); });
-    menu->addGap();
-    addBack(*menu, context.x, context.stack);
+    addEnd(*menu, context);
     return menu;
 }
 
 std::shared_ptr<VandrelMenu> playerMenu(MenuContext& context) {
-    auto menu = std::make_shared<VandrelMenu>(&layoutDefault);
-    menu->addHeading(context.headingX, "Player options");
-    addOptionRows(*menu, context, playerRows);
-    menu->addGap();
-    addBack(*menu, context.x, context.stack);
+    auto menu = optionMenu(context, "Player options", playerRows);
+    addEnd(*menu, context);
     return menu;
 }
 
 std::shared_ptr<VandrelMenu> snakeHunterMenu(MenuContext& context) {
-    auto menu = std::make_shared<VandrelMenu>(&layoutDefault);
-    menu->addHeading(context.headingX, "Snake Hunter options");
-    addOptionRows(*menu, context, snakeHunterRows);
+    auto menu = optionMenu(context, "Snake Hunter options", snakeHunterRows);
     RespawnWallOptions& walls = gameOptions.respawnWalls[static_cast<std::size_t>(GameMode::SnakeHunter)];
     menu->addBool(context.x, "Respawn walls", &walls.enabled, context.offOnNames);
-    menu->addGap();
-    addBack(*menu, context.x, context.stack);
+    addEnd(*menu, context);
     return menu;
 }
 
 std::shared_ptr<VandrelMenu> powerupsMenu(MenuContext& context) {
-    auto menu = std::make_shared<VandrelMenu>(&layoutSmall);
-    menu->addHeading(context.headingX, "Customise powerups");
+    auto menu = optionMenu(context, "Customise powerups", {}, layoutSmall);
     for (int bonus = 1; bonus < bonusCount; ++bonus) {
         if (bonus == Bonus::Death) {
             continue;
@@ -106,8 +110,7 @@ std::shared_ptr<VandrelMenu> powerupsMenu(MenuContext& context) {
         menu->addBool(context.x, powerupLabel(bonus), &checkedAt(gameOptions.powerupDisabled, bonus),
                       context.onOffNames);
     }
-    menu->addGap();
-    addBack(*menu, context.x, context.stack);
+    addEnd(*menu, context);
     return menu;
 }
 
