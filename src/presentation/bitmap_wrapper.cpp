@@ -1,6 +1,5 @@
 #include "presentation/bitmap_wrapper.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 #include "presentation/atlas.h"
@@ -15,11 +14,7 @@ ALLEGRO_BITMAP* createBitmap(int width, int height, bool preserve, bool shrinksS
     al_set_new_bitmap_format(ALLEGRO_PIXEL_FORMAT_ANY_WITH_ALPHA);
     al_set_new_bitmap_flags(ALLEGRO_CONVERT_BITMAP | (preserve ? 0 : ALLEGRO_NO_PRESERVE_TEXTURE) |
                             (shrinksSmoothly ? ALLEGRO_MIN_LINEAR : 0));
-    ALLEGRO_BITMAP* bitmap = al_create_bitmap(width, height);
-    if (bitmap == nullptr && (width < 1 || height < 1)) {
-        // The first game bitmap is made before the game's size is known; not every driver makes an empty one.
-        bitmap = al_create_bitmap(std::max(width, 1), std::max(height, 1));
-    }
+    ALLEGRO_BITMAP* const bitmap = al_create_bitmap(width, height);
     al_restore_state(&before);
     if (bitmap == nullptr) {
         throw std::runtime_error("Could not create bitmap");
