@@ -7,6 +7,7 @@
 #include "input/keyboard.h"
 #include "input/menu_input.h"
 #include "presentation/play_sample.h"
+#include "shell/config.h"
 
 namespace vandrel {
 

@@ -11,9 +11,11 @@
 #include "frontend/menu_entries.h"
 #include "presentation/bitmap_wrapper.h"
 #include "presentation/font_id.h"
-#include "shell/config.h"
 
 namespace vandrel {
+
+template <class T>
+struct ConfigOptionWrapper;
 
 // Where the rows stand, in pixels. Fonts go by name, so these hold for as long as the process, whatever becomes of the
 // display and the fonts made for it.

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "presentation/drawing.h"
+#include "presentation/word_wrap.h"
 
 namespace vandrel {
 

@@ -10,7 +10,6 @@
 
 #include "presentation/bitmap_wrapper.h"
 #include "presentation/font_id.h"
-#include "presentation/word_wrap.h"
 
 namespace vandrel {
 

@@ -1,5 +1,6 @@
 #include "shell/update_rate.h"
 
+#include "match/options/game_options.h"
 #include "shell/display.h"
 
 namespace vandrel {

@@ -1,9 +1,9 @@
 // The update rate: how many ticks a second, and what values tuned at 60 are multiplied by.
 #pragma once
 
-#include "match/options/game_options.h"
-
 namespace vandrel {
+
+struct GameOptions;
 
 // 2 at 120 and 144 updates a second, else 1.
 int frameMultiplierOf(int rate);

@@ -6,6 +6,7 @@
 #include <string>
 #include <thread>
 
+#include "match/options/game_options.h"
 #include "shell/display.h"
 #include "shell/profiler.h"
 #include "shell/shell_test_tools.h"
