@@ -14,6 +14,7 @@
 #include "input/keyboard.h"
 #include "input/menu_input.h"
 #include "presentation/play_sample.h"
+#include "support/key_latches.h"
 #include "support/round_fixture.h"
 
 namespace vandrel::test {
@@ -32,14 +33,9 @@ class MenuTest : public testing::Test {
     }
 
     ~MenuTest() override {
-        keys.clear();
-        for (int keycode = 1; keycode < ALLEGRO_KEY_MAX; ++keycode) {
-            menuKeyPressed(keycode, 0, false);
-            wasKeyReleased(keycode);
-        }
+        letGoOfAllKeys();
         theControlsManager.reset();
         setSamplePlayer(nullptr);
-        setKeyState({});
         menuControlMode = MenuControlMode::KeyboardAndAnyController;
     }
 

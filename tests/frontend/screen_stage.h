@@ -21,6 +21,7 @@
 #include "shell/frame_counter.h"
 #include "shell/timing.h"
 #include "support/drawing_stage.h"
+#include "support/key_latches.h"
 
 namespace vandrel {
 
@@ -43,12 +44,7 @@ class ScreenStage : public DrawingTest {
     }
 
     ~ScreenStage() override {
-        keysAt = {};
-        for (int keycode = 1; keycode < ALLEGRO_KEY_MAX; ++keycode) {
-            menuKeyPressed(keycode, MenuControlMode::KeyboardOnly, false);  // no latch is left for the next test
-            wasKeyReleased(keycode);
-        }
-        setKeyState({});
+        test::letGoOfAllKeys();
         theControlsManager.reset();
         screen.reset();
         displayBitmap.reset();

@@ -13,6 +13,7 @@
 #include "input/keyboard.h"
 #include "input/keyboard_controls.h"
 #include "shell/switches.h"
+#include "support/key_latches.h"
 
 namespace vandrel::test {
 namespace {
@@ -46,16 +47,10 @@ class InputTest : public testing::Test {
     }
 
     ~InputTest() override {
-        // No latch is left behind for the next test.
-        keys.clear();
-        for (int keycode = 1; keycode < ALLEGRO_KEY_MAX; ++keycode) {
-            menuKeyPressed(keycode, 0, false);
-            wasKeyReleased(keycode);
-        }
-        theControlsManager.reset();
         steamListenerFlag = nullptr;
         theSteamListener.reset();
-        setKeyState({});
+        letGoOfAllKeys();
+        theControlsManager.reset();
         menuControlMode = MenuControlMode::KeyboardAndAnyController;
     }
 
