@@ -26,6 +26,11 @@ inline constexpr int sampleTone = 500;  // Hz, of every sample at normal speed
 inline constexpr SampleIds longSample = SampleIds::Gong2;
 inline constexpr double longSampleSeconds = 45;
 
+// A track of this tone, written by `writeTone`, is heard this loud at full volume: the library mixes a stream as
+// centred between two sides.
+inline constexpr int trackTone = 500;
+inline constexpr double fullTrack = 32'000.0 / 32'768 * 0.7071;
+
 inline void wait(int milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }

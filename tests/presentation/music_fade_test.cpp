@@ -15,13 +15,13 @@
 namespace vandrel {
 namespace {
 
+using test::fullTrack;
 using test::middle;
 using test::SoundRecording;
+using test::trackTone;
 using test::wait;
 using test::writeTone;
 
-constexpr int trackTone = 500;
-constexpr double full = 32'000.0 / 32'768 * 0.7071;  // the library mixes a stream as centred between two sides
 constexpr double fadeSeconds = 4;
 
 class HeardFade : public test::HeardSound {
@@ -44,7 +44,7 @@ std::vector<Moment> momentsOf(const std::vector<double>& levels) {
     constexpr std::size_t window = 4;  // stretches of 10 ms
     std::vector<Moment> moments;
     for (std::size_t from = 0; from + window <= levels.size(); from += window) {
-        const double gain = middle(levels, from, from + window) / full;
+        const double gain = middle(levels, from, from + window) / fullTrack;
         if (gain > 0.12 && gain < 0.98) {
             moments.push_back({(static_cast<double>(from) + window / 2.0) / 100, gain});
         }
@@ -66,7 +66,7 @@ double beginOfLine(const std::vector<Moment>& moments) {
 std::string complainOfLine() {
     SoundRecording recording;
     const auto music = makeMenuMusic();
-    if (!recording.waitForLevel(trackTone, full)) {
+    if (!recording.waitForLevel(trackTone, fullTrack)) {
         return "not heard";
     }
     const std::size_t before = recording.levels(trackTone).size();

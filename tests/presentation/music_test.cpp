@@ -21,13 +21,12 @@ namespace vandrel {
 namespace {
 
 using test::firstStretch;
+using test::fullTrack;
 using test::middle;
 using test::SoundRecording;
+using test::trackTone;
 using test::wait;
 using test::writeTone;
-
-constexpr int trackTone = 500;
-constexpr double full = 32'000.0 / 32'768 * 0.7071;  // the library mixes a stream as centred between two sides
 
 // The tracks hold plain tones: the library goes by what is in a file, not by its name.
 class HeardMusic : public test::HeardSound {
@@ -67,7 +66,8 @@ TEST_F(HeardMusic, EachFactoryPlaysItsTrack) {
         SoundRecording recording;
         const auto music = row.make();
         for (const int tone : {row.tone, 500, 600, 700, 800}) {
-            EXPECT_TRUE(recording.waitForLevel(tone, tone == row.tone ? full : 0)) << row.what << ", " << tone << " Hz";
+            EXPECT_TRUE(recording.waitForLevel(tone, tone == row.tone ? fullTrack : 0))
+                << row.what << ", " << tone << " Hz";
         }
     }
 }
@@ -75,13 +75,13 @@ TEST_F(HeardMusic, EachFactoryPlaysItsTrack) {
 TEST_F(HeardMusic, ATrackGoesOnOverItsEnd) {
     SoundRecording recording;
     const auto music = makeMenuMusic();
-    EXPECT_TRUE(recording.waitForLevel(trackTone, full, 0, 1200)) << "longer than the track, without a gap";
+    EXPECT_TRUE(recording.waitForLevel(trackTone, fullTrack, 0, 1200)) << "longer than the track, without a gap";
 }
 
 // The stretch behind the last one that reaches this part of full level. A gap on the way does not move it.
 std::size_t endOf(const std::vector<double>& levels, double part) {
     std::size_t end = levels.size();
-    while (end > 0 && levels[end - 1] < part * full) {
+    while (end > 0 && levels[end - 1] < part * fullTrack) {
         --end;
     }
     return end;
@@ -90,7 +90,7 @@ std::size_t endOf(const std::vector<double>& levels, double part) {
 std::string complainOfFade() {
     SoundRecording recording;
     const auto music = makeMenuMusic();
-    if (!recording.waitForLevel(trackTone, full)) {
+    if (!recording.waitForLevel(trackTone, fullTrack)) {
         return "not heard";
     }
     music->fadeTo(2.0f, 0);
@@ -116,7 +116,7 @@ std::string complainOfNewFade() {
     SoundRecording recording;
     const auto music = makeMenuMusic();
     music->setVolume(204);
-    if (!recording.waitForLevel(trackTone, 0.8 * full)) {
+    if (!recording.waitForLevel(trackTone, 0.8 * fullTrack)) {
         return "not the volume that was set";
     }
     music->fadeTo(2.0f, 0);
@@ -125,9 +125,9 @@ std::string complainOfNewFade() {
     wait(1500);
     recording.finish();
     const auto levels = recording.levels(trackTone);
-    const std::size_t begin = firstStretch(levels, 0, [](double level) { return level > 0.78 * full; });
+    const std::size_t begin = firstStretch(levels, 0, [](double level) { return level > 0.78 * fullTrack; });
     double lowest = 1;
-    double before = 0.8 * full;
+    double before = 0.8 * fullTrack;
     for (std::size_t from = begin + 15; from + 10 < levels.size(); from += 10) {
         const double now = middle(levels, from, from + 10);
         if (std::abs(now - before) > 0.07) {
@@ -136,7 +136,7 @@ std::string complainOfNewFade() {
         lowest = std::min(lowest, now);
         before = now;
     }
-    if (std::abs(lowest - 0.4 * full) > 0.1) {
+    if (std::abs(lowest - 0.4 * fullTrack) > 0.1) {
         return "not where the first had come to";
     }
     return before < lowest + 0.06 ? "not up again" : "";
@@ -150,10 +150,10 @@ TEST_F(HeardMusic, StoppingAndDestroyingInAFadeSilenceAtOnce) {
     for (const bool destroy : {false, true}) {
         SoundRecording recording;
         auto music = makeMenuMusic();
-        EXPECT_TRUE(recording.waitForLevel(trackTone, full));
+        EXPECT_TRUE(recording.waitForLevel(trackTone, fullTrack));
         music->fadeTo(600.0f, 0);
         wait(100);
-        EXPECT_TRUE(recording.waitForLevel(trackTone, full)) << "a slow fade has hardly begun";
+        EXPECT_TRUE(recording.waitForLevel(trackTone, fullTrack)) << "a slow fade has hardly begun";
         if (destroy) {
             music.reset();
         } else {
