@@ -5,6 +5,7 @@
 #include <limits>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "frontend/accessibility_menus.h"
 #include "frontend/screen_stage.h"
@@ -44,6 +45,54 @@ class MenuScreens : public ScreenStage {
 
     MenuContext context{1920};
 };
+
+// What a player reads from top to bottom: the way to a menu by its rows, and what stands on it, "#" before a heading.
+TEST_F(MenuScreens, EverySettingStandsInItsPlace) {
+    struct Case {
+        std::vector<std::string> way;
+        std::vector<std::string> rows;
+    };
+    const Case cases[] = {
+        {{},
+         {"# Settings", "Display", "Sound", "Replays", "Accessibility", "Phobias", "Debug", "Menu control mode",
+          "Profile", "Back"}},
+        {{"Display"},
+         {"# Display settings", "Screen resolution", "High frame rate options", "Show FPS", "VSync", "Back"}},
+        {{"Display", "High frame rate options"},
+         {"# High frame rate settings", "# Warning: high refresh rate modes are experimental and", "# may have bugs.",
+          "# Some aspects of gameplay and balance will be different,", "# especially at 144Hz",
+          "# Not compatible with slow motion mode.", "60Hz (default)", "120Hz", "144Hz", "Back"}},
+        {{"Replays"}, {"# Replay settings", "Record replay data", "Show replay test option", "Back"}},
+        {{"Accessibility"},
+         {"# Accessibility settings", "In-game background colour", "Edit team colours", "Edit player colours",
+          "Outline around players", "Edit player outline colour", "Recolour bombs", "Edit bomb colour",
+          "Ghost opacity (0=invisible, max 255)", "Flashing background settings", "Slow motion options",
+          "# Save/load accessibility settings", "# Note: player/team colours and slow",
+          "# motion options are not saved", "Auto-load on startup: Off", "Load", "Save", "Reset to defaults", "Back"}},
+        {{"Accessibility", "Slow motion options"},
+         {"# Slow motion settings", "Quarter speed", "Half speed", "Three quarter speed", "Normal speed", "Back"}},
+        {{"Phobias"},
+         {"# This game includes photos of cats, dogs and", "# other animals. If you have a phobia of any of",
+          "# these animals, you can choose not to see them.", "Cats: On", "Dogs: On", "Hamsters: On", "Owls: On",
+          "Ferrets: On", "Back"}},
+        {{"Debug"},
+         {"# Debug options - not recommended for most players", "Diagnostic mode", "Show player controller debug",
+          "Set lootbox points", "Go to lootbox room (loot boxes must be enabled)", "Show Quick Start option: Off",
+          "Back"}},
+    };
+    for (const Case& c : cases) {
+        context.stack.menus.clear();
+        context.stack.push(settingsMenu(context));
+        for (const std::string& step : c.way) {
+            row(*context.stack.menus.back(), step).press();
+        }
+        std::vector<std::string> shown;
+        for (const auto& entry : context.stack.menus.back()->entries()) {
+            shown.push_back((entry->isHeading() ? "# " : "") + entry->text());
+        }
+        EXPECT_EQ(shown, c.rows);
+    }
+}
 
 TEST_F(MenuScreens, TheFirstRunIsMarkedByItsQuestion) {
     EXPECT_FALSE(hasConfigKey("lootbox", "catsEnabled"));
