@@ -1,4 +1,4 @@
-// What becomes of images and composed pictures when the display goes and another one comes.
+// What becomes of pictures when the display goes and another one comes, or another size.
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -6,6 +6,7 @@
 #include "presentation/atlas.h"
 #include "presentation/bitmaps.h"
 #include "presentation/drawing.h"
+#include "shell/display.h"
 #include "support/drawing_stage.h"
 
 namespace vandrel {
@@ -48,6 +49,28 @@ TEST_F(NewDisplayOnDisplay, PicturesSurviveAndAreHealedWhenDrawn) {
     const auto another = composePicture(24, 24, [red](const BitmapWrapper& made) { clearTo(made, toColour(red)); });
     drawWrapper(*another, canvas, 40, 0);
     EXPECT_EQ(pixelAt(canvas, 50, 10), red) << "canvases of the lost display are of use again";
+}
+
+// A change of mode, and back again as when nobody confirms it. Mixed pixels are what keeps letters whole.
+TEST_F(NewDisplayOnDisplay, TheGameBitmapIsMixedWhereTheNewSizeShrinksIt) {
+    eventQueue = al_create_event_queue();
+    const auto isMixed = [] { return (al_get_bitmap_flags(screen->bitmap) & ALLEGRO_MIN_LINEAR) != 0; };
+    constexpr bool windowed = true;
+    setVideoMode(320, 240, windowed, ALLEGRO_DEFAULT_DISPLAY_ADAPTER);
+    setGameScreenSize(480, 320);
+    EXPECT_TRUE(isMixed());
+    for (const int width : {480, 320, 640}) {
+        setVideoMode(width, width, windowed, ALLEGRO_DEFAULT_DISPLAY_ADAPTER);
+        EXPECT_EQ(displayBitmap->width(), width);
+        EXPECT_EQ(isMixed(), width < 480) << width;
+    }
+    screen.reset();
+    displayBitmap.reset();
+    al_destroy_display(theDisplay);
+    theDisplay = nullptr;
+    al_destroy_event_queue(eventQueue);
+    eventQueue = nullptr;
+    forgetTarget();
 }
 
 }  // namespace
