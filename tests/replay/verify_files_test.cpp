@@ -175,7 +175,7 @@ TEST_F(ReplayNames, listNewestFirstWithSizeAndHeaderOrError) {
     EXPECT_THAT(all[4].errors, SizeIs(0));
     EXPECT_EQ(all[4].gameMode, 1);
     EXPECT_EQ(all[4].numPlayers, 8);
-    EXPECT_EQ(all[4].version, replayOutputVersion);
+    EXPECT_EQ(all[4].version, replayVersion(1, 1, 2));
     EXPECT_EQ(all[4].size, std::filesystem::file_size(golden) + 5);
 }
 
