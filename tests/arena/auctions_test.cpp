@@ -110,18 +110,6 @@ TEST_F(AuctionTest, TwoWhoBidInOneUpdateRaiseTwiceAndTheLaterLeads) {
     EXPECT_EQ(round.game().auction->bidder, second);
 }
 
-TEST_F(AuctionTest, RefusesWhoCannotPayAndTakesARaiseByTheLeader) {
-    TestRound round(selling());
-    const auto poor = addBidder(round, {1, 1}, 1);
-    const auto rich = addBidder(round, {5, 5}, 5);
-    round.step();
-    bid(round, *rich);
-    bid(round, *poor);
-    EXPECT_EQ(round.game().auction->bidder, rich);
-    bid(round, *rich);
-    EXPECT_EQ(round.game().auction->price, 2);
-}
-
 TEST_F(AuctionTest, AWinnerWhoCannotUsePowerupsGetsNothingAndKeepsTheCash) {
     struct Case {
         const char* form;
@@ -175,20 +163,6 @@ TEST_F(AuctionTest, QuantitiesAndTheGateOfOldReplays) {
     round.game().replay.version = replayVersion(1, 0, 3);
     EXPECT_EQ(round.game().auctionQuantity(Bonus::Bomb), 3);
     round.game().replay.playback = false;
-}
-
-TEST_F(AuctionTest, BidsAreRefusedToCrawlersFromVersion1011On) {
-    for (const bool old : {true, false}) {
-        TestRound round(selling());
-        const auto crawler = addBidder(round, {1, 1}, 3);
-        addBidder(round, {5, 5}, 3);
-        crawler->crawling = true;
-        crawler->crawlTimer = 1000;
-        round.game().replay.version = replayVersion(1, 0, old ? 10 : 11);
-        round.game().replay.playback = true;
-        EXPECT_EQ(crawler->canUsePowerups(), old);
-        round.game().replay.playback = false;
-    }
 }
 
 }  // namespace

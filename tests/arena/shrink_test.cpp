@@ -69,41 +69,6 @@ TEST_F(ShrinkTest, WithShrinkingOffTheStateGoesOnButNoWallIsLaid) {
     EXPECT_EQ(countEdgeWalls(), 0);
 }
 
-TEST_F(ShrinkTest, TheClassicSpiralGoesClockwiseFromTheTopLeft) {
-    TestRound round(closing());
-    startClosing(round);
-    round.step();
-    EXPECT_EQ(squareGrid.at(1, 1), SquareKind::EdgeWall);
-    round.step(16);
-    EXPECT_EQ(squareGrid.at(17, 1), SquareKind::EdgeWall);
-    EXPECT_EQ(countEdgeWalls(), 17);
-    round.step();
-    EXPECT_EQ(squareGrid.at(17, 2), SquareKind::EdgeWall) << "then down";
-    round.step(7 + 16);
-    EXPECT_EQ(squareGrid.at(1, 9), SquareKind::EdgeWall) << "then left";
-    round.step(7);
-    EXPECT_EQ(squareGrid.at(1, 2), SquareKind::EdgeWall) << "then up";
-    round.step();
-    EXPECT_EQ(squareGrid.at(2, 2), SquareKind::EdgeWall) << "then inward";
-}
-
-TEST_F(ShrinkTest, EachStyleFillsTheArenaAndFinishes) {
-    struct Case {
-        int style;
-        std::size_t cursors;
-    };
-    for (const Case& c : std::vector<Case>{{1, 1}, {2, 2}, {3, 4}}) {
-        TestRound round(closing());
-        gameOptions.shrinkStyleResolved = c.style;
-        startClosing(round);
-        ASSERT_EQ(round.game().shrinkCursors.size(), c.cursors);
-        const int updates = round.stepUntil([&] { return round.game().shrinkState == ShrinkState::Finished; });
-        EXPECT_GT(updates, 0) << c.style;
-        EXPECT_GE(countEdgeWalls(), 17 * 9 - static_cast<int>(c.cursors)) << c.style;
-        EXPECT_LE(updates, 17 * 9 / static_cast<int>(c.cursors) + 4) << c.style;
-    }
-}
-
 TEST_F(ShrinkTest, EachStepTakesTheOptionsFramesAndIsHeardFromItsPlace) {
     RoundSetup setup = closing();
     TestRound round(setup);
@@ -144,19 +109,6 @@ TEST_F(ShrinkTest, AWallKillsWhoStandsThereInTheNextFrame) {
     EXPECT_TRUE(player->dead);
 }
 
-TEST_F(ShrinkTest, ABombUnderAWallGoesOff) {
-    TestRound round(closing());
-    const auto player = round.addPlayer({9, 5});
-    placeBomb({1, 1}, player, 80);
-    player->remoteActive = true;
-    startClosing(round);
-    round.step();
-    EXPECT_TRUE(hasBomb({1, 1}));
-    round.step();
-    EXPECT_FALSE(hasBomb({1, 1}));
-    EXPECT_FALSE(player->remoteActive);
-}
-
 TEST_F(ShrinkTest, LastingGhostsBeginToFadeWhenTheWallsStart) {
     TestRound round(closing());
     const auto ghost = round.addPlayer({9, 5});
@@ -166,16 +118,6 @@ TEST_F(ShrinkTest, LastingGhostsBeginToFadeWhenTheWallsStart) {
     EXPECT_EQ(ghost->shieldTimer, Player::lastingShield());
     startClosing(round);
     EXPECT_EQ(round.stepUntil([&] { return !ghost->ghost; }), 121);
-}
-
-TEST_F(ShrinkTest, TheArenaIsAlmostClosedOnceTheSpiralIsInTheMiddleRowBetweenWalls) {
-    TestRound round(closing());
-    startClosing(round);
-    const int updates = round.stepUntil([&] { return round.game().isArenaAlmostClosed(); });
-    ASSERT_GT(updates, 0);
-    EXPECT_EQ(round.game().shrinkCursors.front().y, 5);
-    EXPECT_EQ(round.game().shrinkState, ShrinkState::Shrinking);
-    EXPECT_GT(countEdgeWalls(), 17 * 9 - 20);
 }
 
 TEST_F(ShrinkTest, CursorsAreSeenWhereTheyStandAndWhereTheyGo) {

@@ -48,6 +48,26 @@ GameOptions bareRound(GameMode mode) {
     return options;
 }
 
+bool isKnownKind(int kind) {
+    return (kind >= SquareKind::Empty && kind <= SquareKind::HardWallHitTwice) ||
+           (kind >= SquareKind::WallCrumbling && kind < SquareKind::WallCrumbled) ||
+           (kind >= SquareKind::HardWallCrumbling && kind < SquareKind::HardWallCrumbled);
+}
+
+bool squaresAreInOrder() {
+    for (int x = 0; x < grid_squares_x; ++x) {
+        for (int y = 0; y < grid_squares_y; ++y) {
+            const int kind = squareGrid.at(x, y);
+            const int bonus = bonusGrid.at(x, y);
+            if (!isKnownKind(kind) || (kind != SquareKind::EdgeWall && !isInnerSquare({x, y})) || bonus < 0 ||
+                bonus >= bonusCount || bonus == Bonus::Death) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 // A round from the automatic options to its end, by the steps of a match, with random sources that start anew. What
 // must hold in every round is required after every update.
 class WholeRound {
@@ -146,8 +166,9 @@ class WholeRound {
     bool roundOver = false;
 
   private:
-    static constexpr int longestWait = 150;  // updates before the warning of the walls
-    static constexpr int bombsGone = 600;    // updates after which the bombs of who died have burst
+    static constexpr int longestWait = 150;   // updates before the warning of the walls
+    static constexpr int slowLookEvery = 10;  // updates between two looks at every square
+    static constexpr int bombsGone = 600;     // updates after which the bombs of who died have burst
 
     void pressAtRandom() {
         for (std::size_t i = 0; i < static_cast<std::size_t>(gameOptions.numPlayers); ++i) {
@@ -172,6 +193,18 @@ class WholeRound {
                 EXPECT_EQ(countBombs(player), 0) << "bombs of dead player " << player.num << when();
             }
             EXPECT_TRUE(player.dead || isInnerSquare(player.square())) << "player " << player.num << when();
+            EXPECT_FALSE(player.crawling && player.isSnake() && !player.dead) << "player " << player.num << when();
+            EXPECT_LE(player.speed, gameOptions.speedCap) << "player " << player.num << when();
+        }
+        if (frameCounter % slowLookEvery == 0) {
+            EXPECT_TRUE(squaresAreInOrder()) << when();
+            for (const auto& player : players) {
+                // Bombs of an earlier life may lie there too, so the count can be lower, never higher.
+                EXPECT_LE(player->bombsPlaced, countBombs(*player)) << "player " << player->num << when();
+            }
+        }
+        for (const Explosion& flame : game_->explosions) {
+            EXPECT_TRUE(isInsideGrid(flame.square())) << when();
         }
         EXPECT_EQ(Player::snakesInPlay(), snakes) << when();
         EXPECT_LE(livingAISnakes, std::max(gameOptions.snakesAtOnce, 0)) << when();

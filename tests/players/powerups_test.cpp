@@ -222,18 +222,6 @@ TEST(GhostPowerup, IsRefusedOnlyWhileTheWallsCloseIn) {
     }
 }
 
-TEST(ShieldPowerup, EndsGhostForm) {
-    TestRound round;
-    const auto player = round.addPlayer({5, 5});
-    player->givePowerup(Bonus::Snail);  // no effect on its taker
-    player->ghost = false;
-    player->givePowerup(Bonus::Ghost);
-    EXPECT_FALSE(player->canUsePowerups());
-    player->ghost = false;
-    player->givePowerup(Bonus::QuestionShield);
-    EXPECT_TRUE(player->shield);
-}
-
 TEST(ExtraBomb, BringsOrdinaryBombsBackWhereTheMatchSaysSo) {
     for (const bool resets : {true, false}) {
         for (const BombType type : {BombType::Flamethrower, BombType::RocketLauncher, BombType::RemoteControl}) {

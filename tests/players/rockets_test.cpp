@@ -74,11 +74,7 @@ TEST(RocketsInFreshRounds, TakeOneStepAPassInEveryDirection) {
     for (const Facing facing : facingOrder) {
         TestRound round;
         const auto owner = round.addPlayer({1, 1});
-        placeBomb({7, 5}, owner, 500);
-        Bomb& rocket = bombGrid.edit(7, 5);
-        rocket.kind = BombKind::Rocket;
-        rocket.direction = facing;
-        rocket.rocketStep = 2;
+        placeRocket({7, 5}, owner, facing);
         round.step();
         const Square way = directionOf(facing);
         const Square next{7 + way.x, 5 + way.y};
@@ -132,11 +128,7 @@ TEST(RocketsInFreshRounds, LandBeforeWhateverIsInTheWay) {
         TestRound round;
         const auto owner = round.addPlayer({2, 5});
         round.addPlayer({1, 1});
-        placeBomb({6, 5}, owner, 500);
-        Bomb& rocket = bombGrid.edit(6, 5);
-        rocket.kind = BombKind::Rocket;
-        rocket.direction = Facing::Right;
-        rocket.rocketStep = 2;
+        placeRocket({6, 5}, owner, Facing::Right);
         row.put(round, {7, 5});
         round.game().updateBombs();
         EXPECT_EQ(bombGrid.at(6, 5).isLive(), row.lands) << row.what;
@@ -150,11 +142,7 @@ TEST(RocketsInFreshRounds, LandBeforeWhateverIsInTheWay) {
 TEST_F(Rockets, OnesOwnBodyAsASnakeIsInTheWay) {
     const auto snake = round.addSnake({10, 8}, Facing::Up, 4);
     snake->snakeParts.back() = {7 * 32, 5 * 32, Facing::Up};
-    placeBomb({6, 5}, snake, 500);
-    Bomb& rocket = bombGrid.edit(6, 5);
-    rocket.kind = BombKind::Rocket;
-    rocket.direction = Facing::Right;
-    rocket.rocketStep = 2;
+    placeRocket({6, 5}, snake, Facing::Right);
     round.game().updateBombs();
     EXPECT_EQ(bombGrid.at(6, 5).kind, BombKind::Ticking);
 }

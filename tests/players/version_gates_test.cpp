@@ -110,11 +110,7 @@ TEST(Since_0_95_12, HeadsOnOneSquareHurtEachOther) {
 TEST(Since_0_95_15, RocketsStepOnceAPass) {
     playBothSides(replayVersion(0, 95, 15), [](TestRound& round, bool old) {
         const auto owner = round.addPlayer({1, 1});
-        placeBomb({5, 5}, owner, 500);
-        Bomb& rocket = bombGrid.edit(5, 5);
-        rocket.kind = BombKind::Rocket;
-        rocket.direction = Facing::Right;
-        rocket.rocketStep = 2;
+        placeRocket({5, 5}, owner, Facing::Right);
         round.game().updateBombs();
         // The old pass meets it again on the next square and counts its frame there too.
         EXPECT_EQ(bombGrid.at(6, 5).rocketStep, old ? 1 : 0);

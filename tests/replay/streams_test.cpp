@@ -138,9 +138,11 @@ TEST(Capture, isComparedAsEachReleaseRecordedIt) {
     EXPECT_EQ(captureFailure(now, int32(300), "CTFSCORE 0 300"), "teamNum == team");
     EXPECT_EQ(captureFailure(now, int32(300), "1 300 300"), "txt == \"CTFSCORE\"");
     EXPECT_EQ(captureFailure(1, "", ""), "") << "no record at all";
+    EXPECT_EQ(captureFailure(2, byte(44), good), score);
     EXPECT_EQ(captureFailure(replayVersion(1, 0, 8), byte(44), good), score) << "one byte cannot hold 300";
     EXPECT_EQ(captureFailure(replayVersion(1, 0, 9), byte(44), "CTFSCORE 1 44"), "")
         << "not compared in three releases";
+    EXPECT_EQ(captureFailure(replayVersion(1, 0, 10), int32(7), "CTFSCORE 1 7"), "");
     EXPECT_EQ(captureFailure(replayVersion(1, 0, 11), int32(7), "CTFSCORE 1 7"), "");
     EXPECT_EQ(captureFailure(replayVersion(1, 0, 12), int32(7), good), score);
 }

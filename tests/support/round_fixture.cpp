@@ -234,6 +234,14 @@ void placeBomb(Square square, const std::shared_ptr<Player>& owner, int fuse) {
     ++owner->bombsPlaced;
 }
 
+void placeRocket(Square square, const std::shared_ptr<Player>& owner, Facing direction) {
+    placeBomb(square, owner, 500);
+    Bomb& rocket = bombGrid.edit(square);
+    rocket.kind = BombKind::Rocket;
+    rocket.direction = direction;
+    rocket.rocketStep = 2;
+}
+
 int countBombs(const Player& owner) {
     int count = 0;
     for (int x = 0; x < grid_squares_x; ++x) {

@@ -144,6 +144,8 @@ class TestRound {
 
 // A ticking bomb of the owner that is in order with the owner's count.
 void placeBomb(Square square, const std::shared_ptr<Player>& owner, int fuse);
+// A rocket of the owner, with a long fuse, that goes on in the next bomb pass.
+void placeRocket(Square square, const std::shared_ptr<Player>& owner, Facing direction);
 // How many live bombs of the player lie in the arena.
 int countBombs(const Player& owner);
 // Whether a live flame burns on the square.
