@@ -113,7 +113,8 @@ TEST(InputRecord, isCheckedAndTellsItsPlace) {
     EXPECT_FALSE(decode(byte(3) + byte(32), replayVersion(1, 0, 1)).button2);
 }
 
-// Plays a capture of score 300 by team 1 against these records; the failed expression, or nothing.
+// Plays a capture of score 300 by team 1 against these records, of which nothing may be left; the failed expression, or
+// nothing.
 std::string captureFailure(int version, const std::string& bytes, const std::string& text) {
     std::istringstream stream(bytes);
     stream.exceptions(std::ios::badbit | std::ios::failbit | std::ios::eofbit);
@@ -123,6 +124,9 @@ std::string captureFailure(int version, const std::string& bytes, const std::str
     data.version = version;
     data.inputVerify = std::make_shared<std::istringstream>(text);
     const std::string failure = failureOf([&] { verifyCapture(data, 1, 300); });
+    if (failure.empty()) {
+        EXPECT_EQ(stream.rdbuf()->in_avail(), 0) << versionText(version);
+    }
     const std::size_t begin = failure.find('\'') + 1;
     return failure.empty() ? "" : failure.substr(begin, failure.rfind('\'') - begin);
 }
