@@ -2,12 +2,12 @@
 // the interface and the two devices that need no platform; keyboards and joysticks have files of their own.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <string>
 
 namespace vandrel {
 
-// The values index the key sets and are the arguments of buttonText.
+// The values index the key sets and are the arguments of buttonText. `ControlInputNames` names them.
 enum class ControlInput : int {
     Up = 0,
     Down = 1,
@@ -20,8 +20,7 @@ enum class ControlInput : int {
     ChangeColour = 8,
 };
 
-inline constexpr std::array<const char*, 9> controlInputNames{"Up",      "Down",  "Left",       "Right",       "Fire",
-                                                              "Button2", "Pause", "ChangeSkin", "ChangeColour"};
+inline constexpr std::size_t controlInputCount = 9;
 
 // A device is always held by a shared pointer: a player keeps a device that has gone until the match ends, and the
 // device then answers false.

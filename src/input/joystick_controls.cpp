@@ -29,7 +29,7 @@ struct PadInput {
 };
 
 // In the order of ControlInput.
-constexpr std::array<PadInput, controlInputNames.size()> padInputs{{
+constexpr std::array<PadInput, controlInputCount> padInputs{{
     {13, 1, -1.0f},
     {12, 1, 1.0f},
     {11, 0, -1.0f},

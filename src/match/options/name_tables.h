@@ -1,5 +1,6 @@
 // The names of every enumeration of the game but pictures and sounds, in the order of their values. Menus, the log and
-// the replay list show them. A value outside a table is read through `checkedAt`.
+// the replay list show most of them; nothing shows those of inputs, devices and causes of death. A value outside a
+// table is read through `checkedAt`.
 #pragma once
 
 #include <array>
