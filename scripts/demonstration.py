@@ -15,6 +15,7 @@ PICTURES = stage.REPOSITORY / "demo-pictures"
 FIRST = {"up": "Up", "down": "Down", "left": "Left", "right": "Right", "bomb": "Control_R"}
 SECOND = {"up": "w", "down": "s", "left": "a", "right": "d", "bomb": "Control_L"}
 FAST_FORWARD = "F8"
+CORNER = 32  # pixels
 
 POWERUPS = {1: "extra-bomb", 2: "extra-range", 3: "speed", 7: "shield", 8: "cash", 17: "hidden-shield"}
 
@@ -42,6 +43,10 @@ class Album:
         if not self.has(name):
             self.take(name)
 
+    def last(self, beginning):
+        """The last picture whose name begins so."""
+        return [picture for name, picture in self._pictures if name.startswith(beginning)][-1]
+
     def write(self):
         shutil.rmtree(PICTURES, ignore_errors=True)
         PICTURES.mkdir()
@@ -49,6 +54,11 @@ class Album:
             path = PICTURES / f"{number:02}-{name}.png"
             picture.save(path)
             print(f"  {path.name}", flush=True)
+
+
+def shows_arena(picture, before):
+    """Whether there is an arena, other than in the picture of a menu or lobby before: its edge begins in the corner."""
+    return picture.part(0, 0, CORNER, CORNER).rows != before.part(0, 0, CORNER, CORNER).rows
 
 
 class Match:
@@ -68,6 +78,8 @@ class Match:
     def play(self):
         if not self._next_round():
             return
+        lobby = self._album.last("lobby")
+        stage.poll(lambda: not self._goes_on() or shows_arena(self._screen.picture(), lobby), 10)
         self._album.take("arena")
         self._gather()
         self._lose()
