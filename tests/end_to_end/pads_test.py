@@ -1,36 +1,19 @@
 """Pads at the real program: they steer, they are pulled in the middle of a match, and they come back to their player."""
 
-import os
 import unittest
 
-from game_test_case import ARENA_SCREEN, PROGRAM, SQUARE, ArenaTestCase, square_differs, stage
+from game_test_case import ARENA_SCREEN, PROGRAM, SQUARE, ArenaTestCase, square_differs
+from pads import Pads
 
 LIBRARY = PROGRAM.parents[1] / "tests" / "end_to_end" / "libtest_pads.so"
 
 LEFT_STICK = 0
 
 
-class Pads:
-    """The pads of a game that has the library of this test before its own."""
-
-    def __init__(self, folder, plugged):
-        pipe = folder / "pads"
-        os.mkfifo(pipe)
-        self._pipe = os.open(pipe, os.O_RDWR)  # for reading too, so that neither side waits for the other
-        self.environment = {"LD_PRELOAD": str(LIBRARY), "VANDREL_TEST_PADS": str(pipe),
-                            "VANDREL_TEST_PADS_PLUGGED": str(plugged)}
-
-    def close(self):
-        os.close(self._pipe)
-
-    def act(self, *words):
-        os.write(self._pipe, (" ".join(str(word) for word in words) + "\n").encode())
-
-
 class PadsTest(ArenaTestCase):
     def setUp(self):
         super().setUp()
-        self.pads = Pads(self.stage.folder, plugged=2)
+        self.pads = Pads(LIBRARY, self.stage.folder, plugged=2)
         self.addCleanup(self.pads.close)
 
     def start(self, *arguments, **options):
