@@ -5,17 +5,16 @@ import shutil
 import time
 
 import stage
-from key_player import KeyPlayer
+from key_player import KEY_SETS, KeyPlayer
 from menu_keys import MenuKeys
 from round_in_progress import RoundInProgress, newest_replay
 
 PICTURES = stage.REPOSITORY / "demo-pictures"
 
-# The two key sets that the first two players get: up, down, left, right, bomb.
-FIRST = {"up": "Up", "down": "Down", "left": "Left", "right": "Right", "bomb": "Control_R"}
-SECOND = {"up": "w", "down": "s", "left": "a", "right": "d", "bomb": "Control_L"}
+FIRST, SECOND = KEY_SETS[:2]
 FAST_FORWARD = "F8"
 CORNER = 32  # pixels
+BRIGHT = 100  # of 255
 
 POWERUPS = {1: "extra-bomb", 2: "extra-range", 3: "speed", 7: "shield", 8: "cash", 17: "hidden-shield"}
 
@@ -56,9 +55,10 @@ class Album:
             print(f"  {path.name}", flush=True)
 
 
-def shows_arena(picture, before):
-    """Whether there is an arena, other than in the picture of a menu or lobby before: its edge begins in the corner."""
-    return picture.part(0, 0, CORNER, CORNER).rows != before.part(0, 0, CORNER, CORNER).rows
+def shows_arena(picture):
+    """Whether the edge of an arena lies in the corner. Lobby and score table are dark there."""
+    channels = [channel for row in picture.part(0, 0, CORNER, CORNER).rows for channel in row[1::4]]
+    return sum(channels) / len(channels) > BRIGHT
 
 
 class Match:
@@ -78,15 +78,18 @@ class Match:
     def play(self):
         if not self._next_round():
             return
-        lobby = self._album.last("lobby")
-        stage.poll(lambda: not self._goes_on() or shows_arena(self._screen.picture(), lobby), 10)
-        self._album.take("arena")
+        self._take_arena("arena")
         self._gather()
         self._lose()
         self._screen.hold(0.05, FAST_FORWARD)
         while self._next_round():
-            self._album.take(f"round-{self._number()}")
+            self._take_arena(f"round-{self._number()}")
             self._lose()
+
+    def _take_arena(self, name):
+        """The round is recorded before its first frame stands on the screen."""
+        stage.poll(lambda: not self._goes_on() or shows_arena(self._screen.picture()), 10)
+        self._album.take(name)
 
     def _goes_on(self):
         return self._game.running() and time.monotonic() < self._deadline and "Game ended" not in self._game.errors()

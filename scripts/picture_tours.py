@@ -8,6 +8,7 @@ from collections import namedtuple
 
 import stage
 from demonstration import FIRST, SECOND, Album, Match, show_splash, shows_arena
+from key_player import KEY_SETS
 from menu_keys import CLASSIC, MenuKeys
 from pads import Pads
 
@@ -131,9 +132,9 @@ def lobby():
         tour.menus.enter()
         tour.game.wait_for_line("playerJoinScreen: grid\n")
         stage.wait_for(lambda: tour.menus.highlight() is None, "the lobby")
-        for bomb in ("Control_R", "Control_L", "n", "c"):
-            tour.press(bomb)
-        walks = ("Down", "s", "k", "g")
+        for keys in KEY_SETS:
+            tour.press(keys["bomb"])
+        walks = [keys["down"] for keys in KEY_SETS]
         tour.screen.press(*walks)
         tour.wait_for_picture(all_near_marks, "four players near the marks")
         tour.screen.release(*walks)
@@ -148,9 +149,8 @@ def pause():
     with Tour() as tour:
         tour.start()
         tour.menus.wait_for_main_menu()
-        before = tour.screen.picture()
         tour.menus.join_match([FIRST["bomb"], SECOND["bomb"]])
-        tour.wait_for_picture(lambda picture: shows_arena(picture, before), "the arena")
+        tour.wait_for_picture(shows_arena, "the arena")
         tour.press("Escape")
         stage.wait_for(tour.menus.highlight, "the pause")
         tour.take("pause")
@@ -169,9 +169,8 @@ def lost_pad():
         pads = Pads(TEST_PADS, tour.stage.folder, plugged=2)
         tour.start(pads.environment)
         tour.menus.wait_for_main_menu()
-        before = tour.screen.picture()
         tour.menus.start_match()
-        arena = tour.wait_for_picture(lambda picture: shows_arena(picture, before), "the arena")
+        arena = tour.wait_for_picture(shows_arena, "the arena")
         pads.act("axis", 0, 0, 0, 1)  # the left stick to the right, since the words need room on both sides
         tour.wait_for_picture(lambda picture: differs(picture, arena, 3, 1), "the player to walk away from the edge")
         pads.act("axis", 0, 0, 0, 0)
