@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <stdexcept>
 
 #include "arena/arena.h"
 #include "base/checked.h"
@@ -194,11 +193,13 @@ void writeReplayHeader(std::ostream& stream) {
     writeMarker(&stream, playersMarker);
 }
 
+RefusedVersion::RefusedVersion(int version)
+    : text_(fmt::format("{}; this build reads up to {}", versionRefusal(version), versionText(replayOutputVersion))) {}
+
 std::vector<PlayerSetup> loadReplayHeader(std::istream& stream, int& version) {
     const std::optional<OptionRecord> record = readOptionRecord(&stream, version);
     if (!record) {
-        throw std::runtime_error(
-            fmt::format("{}; this build reads up to {}", versionRefusal(version), versionText(replayOutputVersion)));
+        throw RefusedVersion(version);
     }
     gameOptions = record->options;
     grid_squares_x = record->arenaSize.x;
