@@ -115,12 +115,15 @@ std::vector<ReplayInfo> getAllReplays(bool readHeaders) {
 std::string newReplayName() {
     constexpr int last = std::numeric_limits<int>::max();
     int highest = -1;
+    bool lastTaken = false;
     for (const ReplayInfo& info : getAllReplays(false)) {
-        if (info.number != last) {
+        if (info.number == last) {
+            lastTaken = true;
+        } else {
             highest = std::max(highest, info.number);
         }
     }
-    if (highest + 1 == last) {
+    if (lastTaken && highest + 1 == last) {
         throw std::out_of_range("No number is left for a new replay");
     }
     return fmt::format("{}/{}.{}.replay", replaysDir(), highest + 1, versionText(replayOutputVersion));
