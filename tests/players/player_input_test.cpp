@@ -52,6 +52,31 @@ TEST_F(SecondButton, LightsTheRingForSixtyFramesAtEveryRate) {
     }
 }
 
+TEST_F(SecondButton, OnlyLightsTheRingOfWhoCannotUseWhatIsOffered) {
+    struct Row {
+        const char* who;
+        void (*make)(Player& player);
+    };
+    const Row rows[] = {
+        {"a ghost",
+         [](Player& p) {
+             p.ghost = true;
+             p.shieldTimer = 500;
+         }},
+        {"a snake", [](Player& p) { p.setSnakeLength(4); }},
+    };
+    for (const Row& row : rows) {
+        player->reset();
+        row.make(*player);
+        round.hold(*player, {.button2 = true});
+        round.step();
+        EXPECT_EQ(player->pingTimer, 60) << row.who;
+        EXPECT_EQ(price(), 1) << row.who;
+        round.release(*player);
+        round.step();
+    }
+}
+
 TEST_F(SecondButton, HeldWhileGettingUpMakesNoBid) {
     player->crawling = true;
     player->crawlTimer = 3;

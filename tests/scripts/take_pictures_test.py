@@ -12,7 +12,7 @@ OF_THE_ART = {"contact-sheet", "prizes", "walkers"}  # targets of the build writ
 
 
 class TakePictures(unittest.TestCase):
-    def test_every_picture_is_taken_and_every_shot_is_known(self):
+    def test_every_picture_is_taken_and_every_tour_is_known(self):
         sys.path.insert(0, str(SCRIPTS))
         command = runpy.run_path(str(SCRIPTS / "take-pictures"))
         docs = REPOSITORY / "docs"
