@@ -1,6 +1,7 @@
 """The ways through the game on which the pictures of the documents are taken: with real keys, and with replays, whose rounds
 are always the same. Each tour is a function that gives its shots by name. Used by scripts/take-pictures."""
 
+import contextlib
 import os
 import shutil
 import time
@@ -166,19 +167,18 @@ def pause():
 def lost_pad():
     """A pad is pulled in a match; what stands at the feet of its player, twice as large."""
     with Tour((27 * SQUARE, 15 * SQUARE)) as tour:
-        pads = Pads(TEST_PADS, tour.stage.folder, plugged=2)
-        tour.start(pads.environment)
-        tour.menus.wait_for_main_menu()
-        tour.menus.start_match()
-        arena = tour.wait_for_picture(shows_arena, "the arena")
-        pads.act("axis", 0, 0, 0, 1)  # the left stick to the right, since the words need room on both sides
-        tour.wait_for_picture(lambda picture: differs(picture, arena, 3, 1), "the player to walk away from the edge")
-        pads.act("axis", 0, 0, 0, 0)
-        pads.act("pull", 0)
-        tour.game.wait_for_line("1 controls invalidated\n")
-        tour.wait_for_picture(lambda picture: white(picture) > white(arena) + 50, "the mark of the lost pad")
-        tour.shots["lost"] = tour.screen.picture()
-        pads.close()
+        with contextlib.closing(Pads(TEST_PADS, tour.stage.folder, plugged=2)) as pads:
+            tour.start(pads.environment)
+            tour.menus.wait_for_main_menu()
+            tour.menus.start_match()
+            arena = tour.wait_for_picture(shows_arena, "the arena")
+            pads.act("axis", 0, 0, 0, 1)  # the left stick to the right, since the words need room on both sides
+            tour.wait_for_picture(lambda picture: differs(picture, arena, 3, 1), "the player to walk away from the edge")
+            pads.act("axis", 0, 0, 0, 0)
+            pads.act("pull", 0)
+            tour.game.wait_for_line("1 controls invalidated\n")
+            tour.wait_for_picture(lambda picture: white(picture) > white(arena) + 50, "the mark of the lost pad")
+            tour.shots["lost"] = tour.screen.picture()
         return tour.shots
 
 

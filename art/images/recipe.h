@@ -1,5 +1,4 @@
-// What every recipe in this folder offers: the pictures of one family, by name. write_family.h turns them into
-// files.
+// What every recipe in this folder offers: the pictures of one family, by name. write_family.h turns them into files.
 #pragma once
 
 #include <string>

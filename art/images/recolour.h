@@ -1,6 +1,5 @@
 // A player's sprite in the player's colour, as the game shows it: neutral grey of 192 becomes the colour, darker
-// neutrals its shades. Used by the sheet of walkers and by the galleries among the
-// prizes.
+// neutrals its shades. Used by the sheet of walkers and by the galleries among the prizes.
 #pragma once
 
 #include "painter/canvas.h"

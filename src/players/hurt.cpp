@@ -36,9 +36,9 @@ bool hitsBody(DeathReason reason) {
 }
 
 // Sprites that fly off only look like something: their numbers come from sources that no rule draws from.
-constexpr float flyingGrowth = 0.2f;   // the least there is
-constexpr float spinFromPart = 8.0f;   // of each scattered part more than of the one before it
-constexpr int delayFromPart = 2;       // frames, likewise
+constexpr float flyingGrowth = 0.2f;    // the least there is
+constexpr float spinFromPart = 8.0f;    // of each scattered part more than of the one before it
+constexpr int delayFromPart = 2;        // frames, likewise
 constexpr int strongestDeathSpin = 45;  // either way
 
 float drawScaleVelocity() {

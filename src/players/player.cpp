@@ -27,7 +27,7 @@ constexpr int shieldFrames = 120;
 constexpr int firstRange = 2;
 constexpr int humanSnakeSpeed = 3;
 constexpr int stunnedSnakeSpeed = 2;
-constexpr int crawl = 1;  // pixels a frame at every rate
+constexpr int crawlingSpeed = 1;  // pixels a frame at every rate
 constexpr int crawlersMayNotBidFrom = replayVersion(1, 0, 11);
 
 }  // namespace
@@ -152,7 +152,7 @@ int Player::getSpeed(const PackagedReplayData& replayData) const {
     const auto perFrame = [](int pixelsAt60) { return std::max(pixelsAt60 / gameOptions.frameMultiplier, 1); };
     if (snakeLength > 0) {
         if (slowTimer > 0 && !replayData.isOlderThan(majorStunFrom)) {
-            return crawl;
+            return crawlingSpeed;
         }
         if (!isAI) {
             return perFrame(humanSnakeSpeed);
@@ -160,7 +160,7 @@ int Player::getSpeed(const PackagedReplayData& replayData) const {
         return perFrame(minorStunTimer > 0 && gameOptions.minorStunEnabled ? stunnedSnakeSpeed : speed);
     }
     if (crawling) {
-        return crawl;
+        return crawlingSpeed;
     }
     return perFrame(slowTimer > 0 ? speed / 2 : speed);
 }

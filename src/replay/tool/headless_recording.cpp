@@ -10,7 +10,6 @@
 #include "match/options/name_tables.h"
 #include "match/round_start.h"
 #include "players/player.h"
-#include "replay/tool/headless_playback.h"
 #include "shell/frame_counter.h"
 
 namespace vandrel {
