@@ -27,8 +27,8 @@ struct ReplayInfo {
 std::vector<ReplayInfo> getAllReplays(bool readHeaders);
 
 // The path of the next recording: the highest number in use plus one, and this build's version. The highest number that
-// there is does not count, since nothing comes behind it. Throws what `getAllReplays` throws, and std::out_of_range
-// where no number is left.
+// there is does not count once it is taken, since nothing comes behind it. Throws what `getAllReplays` throws, and
+// std::out_of_range where no number is left.
 std::string newReplayName();
 
 }  // namespace vandrel
