@@ -1,11 +1,10 @@
 #include "frontend/control_assignment.h"
 
-#include <fmt/format.h>
-
 #include <string>
 #include <vector>
 
 #include "frontend/menu_fixture.h"
+#include "frontend/menu_rows.h"
 #include "input/joystick_controls.h"
 #include "match/match_players.h"
 #include "shell/shell_test_tools.h"
@@ -37,15 +36,8 @@ class ControlAssignmentTest : public MenuTest {
         theControlsManager->rescan();
     }
 
-    // The rows of the menu shown, headings in brackets.
-    std::vector<std::string> rows() const {
-        std::vector<std::string> texts;
-        for (const auto& entry : stack.menus.back()->entries()) {
-            EXPECT_EQ(entry->x, left);
-            texts.push_back(entry->isHeading() ? fmt::format("[{}]", entry->text()) : entry->text());
-        }
-        return texts;
-    }
+    // Of the menu shown.
+    std::vector<std::string> rows() const { return textsOf(*stack.menus.back()); }
     void pressRow(std::size_t row) { stack.menus.back()->entries().at(row)->press(); }
 
     std::shared_ptr<FakeJoystickDriver> driver = std::make_shared<FakeJoystickDriver>();
@@ -59,8 +51,9 @@ using Rows = std::vector<std::string>;
 
 TEST_F(ControlAssignmentTest, WhileNobodyIsLostThePlayersStandBelowOneHeading) {
     controlAssignmentMenu(stack, left);
-    EXPECT_EQ(rows(), (Rows{"[Control assignments]", "Player 0 Red pad", "Player 1 Blue pad",
+    EXPECT_EQ(rows(), (Rows{"# Control assignments", "Player 0 Red pad", "Player 1 Blue pad",
                             "Player 2 " + devices()[3]->description(), "Back"}));
+    EXPECT_EQ(stack.menus.back()->entries().front()->x, left);
     EXPECT_EQ(stack.menus.back()->entries().front()->y, 20) << "the small layout of the pause";
     pressRow(4);
     EXPECT_TRUE(stack.backRequested);
@@ -70,9 +63,9 @@ TEST_F(ControlAssignmentTest, LostPlayersAreCountedAndMarkedUntilTheMenuIsOpened
     pull(*red);
     pull(*blue);
     controlAssignmentMenu(stack, left);
-    const Rows lost{"[Control assignments]",
-                    "[2 players have invalid controls]",
-                    "[Select a player to reassign controls]",
+    const Rows lost{"# Control assignments",
+                    "# 2 players have invalid controls",
+                    "# Select a player to reassign controls",
                     "Player 0 LOST CONTROLLER",
                     "Player 1 LOST CONTROLLER",
                     "Player 2 " + players[2]->controls->description(),
@@ -83,7 +76,7 @@ TEST_F(ControlAssignmentTest, LostPlayersAreCountedAndMarkedUntilTheMenuIsOpened
     EXPECT_EQ(rows(), lost);
     stack.pop();
     controlAssignmentMenu(stack, left);
-    EXPECT_EQ(rows()[1], "[1 players have invalid controls]");
+    EXPECT_EQ(rows()[1], "# 1 players have invalid controls");
     EXPECT_EQ(rows()[4], "Player 1 Blue pad");
 }
 
@@ -91,17 +84,14 @@ TEST_F(ControlAssignmentTest, AChosenDeviceIsSharedNotTaken) {
     controlAssignmentMenu(stack, left);
     pressRow(3);
     ASSERT_EQ(stack.menus.size(), 2U);
-    const auto keys0 = devices()[2]->description();
-    const auto keys1 = devices()[3]->description();
-    const auto keys2 = devices()[4]->description();
-    const auto keys3 = devices()[5]->description();
-    const Rows before{"[Choose a new controller for player 2]",
+    const auto name = [](std::size_t device) { return devices()[device]->description(); };
+    const Rows before{"# Choose a new controller for player 2",
                       "Red pad - player 0",
                       "Blue pad - player 1",
-                      keys0,
-                      keys1 + " - player 2",
-                      keys2,
-                      keys3,
+                      name(2),
+                      name(3) + " - player 2",
+                      name(4),
+                      name(5),
                       "Back"};
     EXPECT_EQ(rows(), before);
     pressRow(1);
@@ -125,7 +115,7 @@ TEST_F(ControlAssignmentTest, AChosenDeviceIsSharedNotTaken) {
     stack.pop();
     chooseControllerMenu(players[1], stack, left);
     EXPECT_EQ(rows()[1], "Red pad - player 0") << "one mark, of the first who holds it";
-    EXPECT_EQ(rows()[4], keys1);
+    EXPECT_EQ(rows()[4], name(3));
 }
 
 // A pad that somebody else plugs in later rescues the player who lost one.
@@ -157,7 +147,7 @@ TEST_F(ControlAssignmentTest, AHeldPadDrivesTheMenuThoughItIsNotTheFirst) {
     idle(menu);
     blue->hold(0);
     menu.update(limit);
-    EXPECT_EQ(rows().front(), "[Choose a new controller for player 1]");
+    EXPECT_EQ(rows().front(), "# Choose a new controller for player 1");
 }
 
 }  // namespace

@@ -23,18 +23,12 @@ TEST_F(LobbyDevices, FollowsDevicesThatComeAndGo) {
     join(12);
     atTheEdge.x = 29 * squareSize;
     atTheEdge.y = 17 * squareSize;
-    keys(0).fire = true;
-    keys(1).fire = true;
-    step();
-    keys(0).fire = false;
-    keys(1).fire = false;
-    ASSERT_EQ(stays.bombsPlaced, 1);
+    press(1, &HeldKeys::fire);
     step(95);
     const auto isBeyond = [](const Explosion& flame) { return flame.x >= 27 || flame.y >= 15; };
     ASSERT_TRUE(std::ranges::any_of(lobby_->game().explosions, isBeyond)) << "flames where no squares will be";
-    keys(0).fire = true;
-    step();
-    keys(0).fire = false;
+    press(0, &HeldKeys::fire);
+    ASSERT_EQ(stays.bombsPlaced, 1);
 
     keys(12).connected = false;
     devices_.resize(4);
@@ -65,11 +59,9 @@ TEST_F(LobbyDevices, TakesAHundredDevices) {
     std::mt19937 chance(7);
     for (const bool asSnakes : {false, true}) {
         gameOptions.startAsSnake = asSnakes;
-        lobby_ = nullptr;
         open(GameMode::BattleRoyale);
         for (std::size_t i = 0; i < devices_.size(); ++i) {
-            keys(i) = {};
-            keys(i).fire = true;
+            keys(i) = {.fire = true};
         }
         step();
         EXPECT_EQ(gameOptions.numPlayers, 100);

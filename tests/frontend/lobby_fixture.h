@@ -21,15 +21,15 @@
 
 namespace vandrel {
 
-class LobbyTest : public testing::Test {
+class LobbyStage {
   protected:
-    LobbyTest() : optionsBefore_(gameOptions), outputBefore_(setDebugOutput(nullptr)) {
+    LobbyStage() : optionsBefore_(gameOptions), outputBefore_(setDebugOutput(nullptr)) {
         gameOptions = GameOptions();
         setSamplePlayer(nullptr);
         fillTeamPalettes();
         addDevices(4);
     }
-    ~LobbyTest() override {
+    ~LobbyStage() {
         lobby_ = nullptr;
         clearMatch();
         gameOptions = optionsBefore_;
@@ -42,6 +42,7 @@ class LobbyTest : public testing::Test {
         }
     }
     void open(GameMode mode = GameMode::Classic) {
+        lobby_ = nullptr;
         gameOptions.gameMode = mode;
         lobby_ = std::make_unique<Lobby>(devices_);
     }
@@ -52,11 +53,15 @@ class LobbyTest : public testing::Test {
             lobby_->update();
         }
     }
+    // One update with this key of the device, one without.
+    void press(std::size_t device, bool HeldKeys::*key) {
+        keys(device).*key = true;
+        step();
+        keys(device).*key = false;
+        step();
+    }
     Player& join(std::size_t device) {
-        keys(device).fire = true;
-        step();
-        keys(device).fire = false;
-        step();
+        press(device, &HeldKeys::fire);
         return *Lobby::holderOf(*devices_.at(device));
     }
     // As a player stands who has walked there.
@@ -65,6 +70,7 @@ class LobbyTest : public testing::Test {
         player.y = centre.y - halfSquare;
         step();
     }
+    Pixel marker(std::size_t team) const { return lobby_->teamMarkers().at(team); }
     static std::vector<int> numbers() {
         std::vector<int> found;
         std::ranges::transform(players, std::back_inserter(found), [](const auto& player) { return player->num; });
@@ -78,5 +84,7 @@ class LobbyTest : public testing::Test {
     GameOptions optionsBefore_;
     DebugOutput outputBefore_;
 };
+
+class LobbyTest : public testing::Test, protected LobbyStage {};
 
 }  // namespace vandrel

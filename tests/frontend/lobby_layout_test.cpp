@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -16,42 +17,33 @@ namespace {
 
 using testing::ElementsAre;
 
-struct SizeCase {
-    int devices;
-    bool inTeams;
-    LobbySize size;
-};
-
 TEST(LobbyLayout, HoldsAllDevices) {
-    for (const SizeCase& c : std::vector<SizeCase>{{4, false, {3, 6}},
-                                                   {12, false, {3, 6}},
-                                                   {13, false, {4, 10}},
-                                                   {30, false, {4, 10}},
-                                                   {31, false, {5, 13}},
-                                                   {39, false, {5, 13}},
-                                                   {40, false, {6, 16}},
-                                                   {100, false, {6, 16}},
-                                                   {6, true, {3, 6}},
-                                                   {7, true, {4, 10}},
-                                                   {20, true, {4, 10}},
-                                                   {21, true, {5, 13}},
-                                                   {39, true, {5, 13}},
-                                                   {40, true, {6, 16}}}) {
-        EXPECT_EQ(lobbySizeFor(c.devices, c.inTeams), c.size) << c.devices << (c.inTeams ? " in teams" : " alone");
+    // The most devices of each size, alone and in teams.
+    const std::tuple<LobbySize, int, int> sizes[] = {{{3, 6}, 12, 6}, {{4, 10}, 30, 20}, {{5, 13}, 39, 39}};
+    for (const bool inTeams : {false, true}) {
+        int fewest = 4;
+        for (const auto& [size, mostAlone, mostInTeams] : sizes) {
+            const int most = inTeams ? mostInTeams : mostAlone;
+            EXPECT_EQ(lobbySizeFor(fewest, inTeams), size) << fewest << (inTeams ? " in teams" : " alone");
+            EXPECT_EQ(lobbySizeFor(most, inTeams), size) << most << (inTeams ? " in teams" : " alone");
+            fewest = most + 1;
+        }
+        EXPECT_EQ(lobbySizeFor(40, inTeams), (LobbySize{6, 16}));
+        EXPECT_EQ(lobbySizeFor(100, inTeams), (LobbySize{6, 16}));
     }
 }
 
 TEST(LobbyLayout, PutsSpotsInRowsAndMarkersAtTheBottom) {
     EXPECT_THAT(lobbySpots(4, 6, 864), ElementsAre(Pixel{160, 48}, Pixel{320, 48}, Pixel{480, 48}, Pixel{640, 48}));
-    const std::vector<Pixel> two = lobbySpots(13, 10, 992);
-    EXPECT_EQ(two.at(9), (Pixel{840, 48}));
-    EXPECT_EQ(two.at(10), (Pixel{84, 176}));
-    const std::vector<Pixel> three = lobbySpots(31, 13, 1248);
-    EXPECT_EQ(three.at(12), (Pixel{1092, 48}));
-    EXPECT_EQ(three.at(30), (Pixel{420, 304}));
-    const std::vector<Pixel> seven = lobbySpots(100, 16, 1888);
-    EXPECT_EQ(seven.at(15), (Pixel{1712, 48}));
-    EXPECT_EQ(seven.at(99), (Pixel{428, 816}));
+    // The last spot of a row, and the last of all in the row below it.
+    const std::tuple<int, int, int, Pixel, Pixel> lobbies[] = {{13, 10, 992, {840, 48}, {252, 176}},
+                                                               {31, 13, 1248, {1092, 48}, {420, 304}},
+                                                               {100, 16, 1888, {1712, 48}, {428, 816}}};
+    for (const auto& [devices, columns, lobbyWidth, endOfRow, last] : lobbies) {
+        const std::vector<Pixel> spots = lobbySpots(devices, columns, lobbyWidth);
+        EXPECT_EQ(spots.at(static_cast<std::size_t>(columns) - 1), endOfRow) << devices;
+        EXPECT_EQ(spots.back(), last) << devices;
+    }
     EXPECT_THAT(lobbyTeamMarkers(4, 864, 480),
                 ElementsAre(Pixel{108, 416}, Pixel{324, 416}, Pixel{540, 416}, Pixel{756, 416}));
 }

@@ -1,6 +1,7 @@
 // People who join the lobby, walk about in it, and start the match.
 #include <algorithm>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "base/colour.h"
@@ -38,9 +39,7 @@ TEST_F(LobbyRules, WalksAndTriesBombsThatHurtNobody) {
     step(16);
     EXPECT_EQ(player.x, 160 + 32);
     keys(0) = {};
-    keys(0).fire = true;
-    step();
-    keys(0).fire = false;
+    press(0, &HeldKeys::fire);
     EXPECT_EQ(player.bombsPlaced, 1);
     bool burnt = false;
     for (int i = 0; i < 200; ++i) {
@@ -62,17 +61,13 @@ TEST_F(LobbyRules, ChangesLooksOnceForEachPress) {
     EXPECT_EQ(player.look.skin, skinCount - 1);
     keys(0).skin = false;
     step();
-    keys(0).skin = true;
-    step();
+    press(0, &HeldKeys::skin);
     EXPECT_EQ(player.look.skin, 0);
     const std::vector<RGB> palette = playerColours();
     bool changed = false;
     for (int i = 0; i < 8; ++i) {
         const ALLEGRO_COLOR before = player.look.colour;
-        keys(0).colour = true;
-        step();
-        keys(0).colour = false;
-        step();
+        press(0, &HeldKeys::colour);
         changed = changed || !sameColour(player.look.colour, before);
         EXPECT_TRUE(
             std::ranges::any_of(palette, [&](RGB colour) { return sameColour(toColour(colour), player.look.colour); }));
@@ -117,30 +112,23 @@ TEST_F(LobbyRules, RefusesAgainAndAgainWhoHoldsOnAlone) {
 }
 
 TEST_F(LobbyRules, NeedsPlayersByMode) {
-    struct Case {
-        GameMode mode;
-        int minPlayers;
-        std::size_t teamCount;
-    };
-    for (const Case& c : std::vector<Case>{{GameMode::Classic, 2, 2},
-                                           {GameMode::CaptureTheFlag, 2, 4},
-                                           {GameMode::BattleRoyale, 3, 10},
-                                           {GameMode::KingOfTheHill, 2, 4},
-                                           {GameMode::SnakeHunter, 1, 10},
-                                           {GameMode::Deathmatch, 2, 2},
-                                           {GameMode::Everything, 2, 4}}) {
-        open(c.mode);
-        EXPECT_EQ(teams.size(), c.teamCount) << static_cast<int>(c.mode);
-        for (int joined = 0; joined < c.minPlayers; ++joined) {
+    using enum GameMode;
+    const std::tuple<GameMode, int, std::size_t> modes[] = {
+        {Classic, 2, 2},      {CaptureTheFlag, 2, 4}, {BattleRoyale, 3, 10}, {KingOfTheHill, 2, 4},
+        {SnakeHunter, 1, 10}, {Deathmatch, 2, 2},     {Everything, 2, 4}};
+    for (const auto& [mode, minPlayers, teamCount] : modes) {
+        SCOPED_TRACE(static_cast<int>(mode));
+        open(mode);
+        EXPECT_EQ(teams.size(), teamCount);
+        for (int joined = 0; joined < minPlayers; ++joined) {
             step(1, true);
             EXPECT_TRUE(lobby_->showsRefusals());
-            EXPECT_THAT(lobby_->refusals(), ElementsAre("Need at least " + std::to_string(c.minPlayers) + " players!"));
+            EXPECT_THAT(lobby_->refusals(), ElementsAre("Need at least " + std::to_string(minPlayers) + " players!"));
             join(static_cast<std::size_t>(joined));
         }
         step(1, true);
-        EXPECT_EQ(lobby_->isReady(), !Lobby::isInTeams()) << static_cast<int>(c.mode);
+        EXPECT_EQ(lobby_->isReady(), !Lobby::isInTeams());
         EXPECT_EQ(lobby_->refusals().empty(), !Lobby::isInTeams());
-        lobby_ = nullptr;
     }
 }
 

@@ -9,6 +9,8 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "frontend/lootbox_room_drawing.h"
@@ -16,6 +18,7 @@
 #include "match/match_stage.h"
 #include "match/options/game_options.h"
 #include "presentation/drawing.h"
+#include "presentation/ink.h"
 #include "presentation/play_sample.h"
 #include "presentation/text.h"
 #include "shell/config.h"
@@ -27,7 +30,16 @@ namespace vandrel {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
+
+const auto nobodyPresses = [] { return false; };
+const auto somebodyPresses = [] { return true; };
+
+// Updates until the prizes begin or the prompt stands under the total.
+void countToTheEnd(LootboxShow& show) {
+    for (int i = 0; i < 100'000 && show.isCounting() && !show.promptShown(); ++i) {
+        show.update(nobodyPresses);
+    }
+}
 
 class LootboxRoom : public DrawingTest {
   protected:
@@ -39,8 +51,7 @@ class LootboxRoom : public DrawingTest {
         gameOptions = GameOptions();
         ticksHeard = 0;
         setSamplePlayer([](SampleIds id, int volume, int pan, int speed) {
-            EXPECT_EQ(id, SampleIds::Cash2);
-            EXPECT_THAT((std::vector{volume, pan, speed}), ElementsAre(200, 128, 1000));
+            EXPECT_EQ((HeardSample{id, volume, pan, speed}), HeardSample{SampleIds::Cash2});
             ++ticksHeard;
         });
     }
@@ -59,29 +70,34 @@ class LootboxRoom : public DrawingTest {
         }
     }
 
-    // Updates until the prizes begin or the prompt stands under the total.
-    static void countToTheEnd(LootboxShow& show) {
-        for (int i = 0; i < 100'000 && show.isCounting() && !show.promptShown(); ++i) {
-            show.update([] { return false; });
+    // The room as it opens for so many points.
+    static LootboxShow open(int points) {
+        lootboxPoints = points;
+        return LootboxShow::open().value();
+    }
+
+    // Updates until a prize is on show; gives their number.
+    static int waitForPrize(LootboxShow& show) {
+        int updates = 0;
+        for (; show.current() == nullptr && updates < 1000; ++updates) {
+            EXPECT_FALSE(show.promptShown());
+            show.update(nobodyPresses);
         }
+        return updates;
     }
 
     // A whole visit by somebody who presses as soon as the prompt is there: the captions seen, in their order.
-    static std::vector<std::string> visit() {
+    static std::vector<std::string> visit(int points) {
         std::vector<std::string> captions;
-        std::optional<LootboxShow> show = LootboxShow::open();
-        EXPECT_TRUE(show.has_value());
-        for (int i = 0; show && !show->done(); ++i) {
-            const Prize* before = show->current();
-            show->update([&] { return before != nullptr || show->isCounting(); });
-            if (show->current() != before) {
-                captions.emplace_back(show->current()->caption);
-            }
-            if (i == 100'000) {
-                ADD_FAILURE() << "the room cannot be left";
-                break;
+        LootboxShow show = open(points);
+        for (int i = 0; !show.done() && i < 100'000; ++i) {
+            const Prize* before = show.current();
+            show.update([&] { return before != nullptr || show.isCounting(); });
+            if (show.current() != before) {
+                captions.emplace_back(show.current()->caption);
             }
         }
+        EXPECT_TRUE(show.done()) << "the room cannot be left";
         LootboxShow::close();
         return captions;
     }
@@ -106,102 +122,76 @@ class LootboxRoom : public DrawingTest {
 // grows to 2, and from there 20 for each amount. Where a sum of hundredths comes to a whole number, it is the rounding
 // of 32-bit floats that says whether it is reached.
 TEST_F(LootboxRoom, TicksQuickenFromFourASecondToTwentyAndThenGrow) {
-    struct Case {
-        int rate;
-        std::vector<int> waits;  // behind each of the first ticks; the last one stays
-    };
-    for (const Case& c :
-         {Case{60, {16, 15, 14, 14, 13, 12, 12, 11, 11, 10, 9, 9, 8, 8, 7, 6, 6, 5, 5, 4, 3}},
-          Case{144, {36, 35, 34, 32, 31, 29, 28, 26, 25, 24, 22, 21, 19, 18, 16, 15, 13, 12, 11, 9, 8}}}) {
-        gameOptions.updaterate = c.rate;
-        lootboxPoints = 1000;
-        std::optional<LootboxShow> show = LootboxShow::open();
-        ASSERT_TRUE(show.has_value());
-        const std::set<int> growsAt{40, 60, 80, 99, 119, 139, 159, 179, 199};  // ticks that count one point more
-        int amount = 1;
-        int shown = 0;
-        int updates = 0;
-        int ticks = 0;
-        while (shown < 1000 && updates < 1000) {
-            ++updates;
-            show->update([] { return false; });
-            if (show->shownPoints() == shown) {
-                continue;
+    // At each rate the waits behind the first ticks; the last one stays.
+    const std::pair<int, std::vector<int>> rates[] = {
+        {60, {16, 15, 14, 14, 13, 12, 12, 11, 11, 10, 9, 9, 8, 8, 7, 6, 6, 5, 5, 4, 3}},
+        {144, {36, 35, 34, 32, 31, 29, 28, 26, 25, 24, 22, 21, 19, 18, 16, 15, 13, 12, 11, 9, 8}}};
+    for (const auto& [rate, waits] : rates) {
+        gameOptions.updaterate = rate;
+        LootboxShow show = open(1000);
+        // The ticks that count one point more.
+        const std::set<std::size_t> growsAt{40, 60, 80, 99, 119, 139, 159, 179, 199};
+        int amount = 1, shown = 0;
+        std::size_t ticks = 0;
+        for (; shown < 1000 && !HasFailure(); ++ticks) {
+            int updates = 0;
+            for (; show.shownPoints() == shown && updates < 1000; ++updates) {
+                show.update(nobodyPresses);
             }
-            const int told = ticks == 0 ? 2 : c.waits[std::min<std::size_t>(ticks, c.waits.size()) - 1];
-            EXPECT_EQ(updates, told) << "before tick " << ticks << " at " << c.rate;
+            const int told = ticks == 0 ? 2 : waits[std::min(ticks, waits.size()) - 1];
+            EXPECT_EQ(updates, told) << "before tick " << ticks << " at " << rate;
             amount += growsAt.contains(ticks) ? 1 : 0;
-            EXPECT_EQ(show->shownPoints(), std::min(shown + amount, 1000)) << "by tick " << ticks;
-            shown = show->shownPoints();
-            updates = 0;
-            ++ticks;
+            EXPECT_EQ(show.shownPoints(), std::min(shown + amount, 1000)) << "by tick " << ticks;
+            shown = show.shownPoints();
         }
-        EXPECT_EQ(shown, 1000);
-        EXPECT_EQ(ticks, 208);
-        EXPECT_EQ(ticksHeard, ticks);
-        ticksHeard = 0;
-        std::ranges::for_each(prizes, [](const Prize& prize) { setConfigInt("lootbox", prize.key, 0); });
+        EXPECT_EQ(ticks, 208U);
+        EXPECT_EQ(std::exchange(ticksHeard, 0), 208);
     }
 }
 
 TEST_F(LootboxRoom, OpensOnlyForNewPointsAndWhereLootboxesAreOn) {
-    struct Case {
-        int stored;
-        int points;
-        bool enabled;
-        bool opens;
-    };
-    for (const Case& c : {Case{0, 0, true, false}, Case{5, 5, true, false}, Case{7, 5, true, false},
-                          Case{0, 1, false, false}, Case{0, 1, true, true}, Case{5, 6, true, true}}) {
-        setConfigInt("lootbox", "lootboxPoints", c.stored);
-        lootboxPoints = c.points;
-        lootboxesEnabled = c.enabled;
-        EXPECT_EQ(LootboxShow::open().has_value(), c.opens) << c.stored << " " << c.points;
-        if (!c.opens) {
+    const std::tuple<int, int, bool, bool> cases[] = {{0, 0, true, false},  {5, 5, true, false}, {7, 5, true, false},
+                                                      {0, 1, false, false}, {0, 1, true, true},  {5, 6, true, true}};
+    for (const auto& [stored, points, enabled, opens] : cases) {
+        setConfigInt("lootbox", "lootboxPoints", stored);
+        lootboxPoints = points;
+        lootboxesEnabled = enabled;
+        EXPECT_EQ(LootboxShow::open().has_value(), opens) << stored << " " << points;
+        if (!opens) {
             lootboxRoom();  // there is no display here that it could draw on
-            EXPECT_EQ(getConfigInt("lootbox", "lootboxPoints", 0), c.stored);
+            EXPECT_EQ(getConfigInt("lootbox", "lootboxPoints", 0), stored);
         }
     }
 }
 
 TEST_F(LootboxRoom, WithNothingWonThePromptStandsUnderTheTotalAndOnePressLeaves) {
-    lootboxPoints = 9;
-    std::optional<LootboxShow> show = LootboxShow::open();
-    ASSERT_TRUE(show.has_value());
-    countToTheEnd(*show);
-    EXPECT_TRUE(show->isCounting());
-    EXPECT_TRUE(show->promptShown());
-    EXPECT_EQ(show->shownPoints(), 9);
-    show->update([] { return false; });
-    EXPECT_FALSE(show->done());
-    show->update([] { return true; });
-    EXPECT_TRUE(show->done());
-    EXPECT_THAT(prizesWon(), IsEmpty());
+    LootboxShow show = open(9);
+    countToTheEnd(show);
+    EXPECT_TRUE(show.isCounting());
+    EXPECT_TRUE(show.promptShown());
+    EXPECT_EQ(show.shownPoints(), 9);
+    show.update(nobodyPresses);
+    EXPECT_FALSE(show.done());
+    show.update(somebodyPresses);
+    EXPECT_TRUE(show.done());
+    EXPECT_THAT(prizesWon(), testing::IsEmpty());
 }
 
 TEST_F(LootboxRoom, PrizesThatOneTickWinsAreShownInTurnAfterTwoSeconds) {
     setConfigInt("lootbox", "lootboxPoints", 29);
     setConfigInt("lootbox", "Alien1", 1);
     setConfigInt("lootbox", "Santa", 7);  // any other number than 0 says so too
-    lootboxPoints = 30;
-    std::optional<LootboxShow> show = LootboxShow::open();
-    ASSERT_TRUE(show.has_value());
-    countToTheEnd(*show);
+    LootboxShow show = open(30);
+    countToTheEnd(show);
     EXPECT_THAT(prizesWon(), testing::UnorderedElementsAre("Alien1", "Santa", "Django", "Squirrel"));
-    int updates = 0;
-    while (show->current() == nullptr && updates < 1000) {
-        EXPECT_FALSE(show->promptShown());
-        show->update([] { return false; });
-        ++updates;
-    }
-    EXPECT_EQ(updates, 121) << "two seconds, and below 0";
-    EXPECT_STREQ(show->current()->caption, "A dog");
-    EXPECT_TRUE(show->promptShown());
-    show->update([] { return true; });
-    EXPECT_STREQ(show->current()->caption, "A squirrel");
-    EXPECT_FALSE(show->done());
-    show->update([] { return true; });
-    EXPECT_TRUE(show->done());
+    EXPECT_EQ(waitForPrize(show), 121) << "two seconds, and below 0";
+    EXPECT_STREQ(show.current()->caption, "A dog");
+    EXPECT_TRUE(show.promptShown());
+    show.update(somebodyPresses);
+    EXPECT_STREQ(show.current()->caption, "A squirrel");
+    EXPECT_FALSE(show.done());
+    show.update(somebodyPresses);
+    EXPECT_TRUE(show.done());
     EXPECT_EQ(getConfigInt("lootbox", "lootboxPoints", 0), 29) << "written when the room is left, not before";
     LootboxShow::close();
     EXPECT_EQ(getConfigInt("lootbox", "lootboxPoints", 0), 30);
@@ -210,36 +200,26 @@ TEST_F(LootboxRoom, PrizesThatOneTickWinsAreShownInTurnAfterTwoSeconds) {
 
 TEST_F(LootboxRoom, WhatAPhobiaWithholdsIsWonAtTheNextOpeningAfterIt) {
     catsEnabled.value = false;
-    lootboxPoints = 60;
-    EXPECT_THAT(visit(), ElementsAre("Santa", "A dog", "A squirrel", "Marmite on pitta bread", "Narwhals"));
+    EXPECT_THAT(visit(60), ElementsAre("Santa", "A dog", "A squirrel", "Marmite on pitta bread", "Narwhals"));
     catsEnabled.value = true;
-    lootboxPoints = 61;
-    EXPECT_THAT(visit(), ElementsAre("A cat", "A cat"));
+    EXPECT_THAT(visit(61), ElementsAre("A cat", "A cat"));
 
     ferretsEnabled.value = false;
-    lootboxPoints = 300;
-    EXPECT_THAT(visit(), testing::Not(testing::Contains("Cat and ferret"))) << "one of its two animals is off";
+    EXPECT_THAT(visit(300), testing::Not(testing::Contains("Cat and ferret"))) << "one of its two animals is off";
     ferretsEnabled.value = true;
-    lootboxPoints = 301;
-    EXPECT_THAT(visit(), ElementsAre("Cat and ferret"));
+    EXPECT_THAT(visit(301), ElementsAre("Cat and ferret"));
 }
 
 TEST_F(LootboxRoom, EveryPrizeIsWonOnceWhereverTheVisitsFall) {
     std::vector<std::string> captions;
     for (const int points : {3, 9, 100, 101, 470, 1000}) {  // a match that was quit only adds to the next one's visit
-        lootboxPoints = points;
-        std::ranges::copy(visit(), std::back_inserter(captions));
+        std::ranges::copy(visit(points), std::back_inserter(captions));
         EXPECT_EQ(getConfigInt("lootbox", "lootboxPoints", 0), points);
     }
     std::vector<std::string> told;
-    std::set<std::string> keys;
-    for (const Prize& prize : prizes) {
-        told.emplace_back(prize.caption);
-        keys.insert(prize.key);
-    }
+    std::ranges::transform(prizes, std::back_inserter(told), &Prize::caption);
     EXPECT_EQ(captions, told);
-    EXPECT_EQ(prizesWon(), keys);
-    EXPECT_EQ(keys.size(), 30U);
+    EXPECT_EQ(prizesWon().size(), 30U);
 }
 
 TEST_F(LootboxRoom, ShowsAPictureInTheMiddleUnderItsCaptionAndSaysWhichOneIsMissing) {
@@ -248,42 +228,25 @@ TEST_F(LootboxRoom, ShowsAPictureInTheMiddleUnderItsCaptionAndSaysWhichOneIsMiss
     std::filesystem::create_directory_symlink(std::filesystem::path(VANDREL_SOURCE_DIR) / "game" / "fonts", "fonts");
     loadFonts();
     loadPlainImage(bitmapIndex(BitmapIds::Alien1), {200, 10, 10}, 200, 100);
-    lootboxPoints = 20;
-    std::optional<LootboxShow> show = LootboxShow::open();
-    ASSERT_TRUE(show.has_value());
-    countToTheEnd(*show);
-    while (show->current() == nullptr) {
-        show->update([] { return false; });
-    }
+    LootboxShow show = open(20);
+    countToTheEnd(show);
+    waitForPrize(show);
     const BitmapWrapper target(1920, 1080, true);
-    drawLootboxRoom(*show, target);
-    const RGB red{200, 10, 10};
-    EXPECT_EQ(pixelAt(target, 860, 490), red);
-    EXPECT_EQ(pixelAt(target, 1059, 589), red);
-    EXPECT_EQ(pixelAt(target, 859, 490), RGB{});
-    EXPECT_EQ(pixelAt(target, 1060, 589), RGB{});
-    const auto litRows = [&target](int top, int bottom) {
-        int lit = 0;
-        for (int y = top; y < bottom; ++y) {
-            for (int x = 0; x < target.width(); x += 1) {
-                lit += pixelAt(target, x, y) == RGB{255, 255, 255} ? 1 : 0;
-            }
-        }
-        return lit > 0;
-    };
-    EXPECT_FALSE(litRows(0, 38));
-    EXPECT_TRUE(litRows(38, 80)) << "the caption: 2 % of the width from the top";
-    EXPECT_TRUE(litRows(1026, 1066)) << "the prompt: 95 % of the height from the top";
+    drawLootboxRoom(show, target);
+    const Ink picture = inkOf(target, allOf(target), RGB{200, 10, 10});
+    EXPECT_EQ(picture.count, 200 * 100);
+    EXPECT_EQ(picture.left, 860);
+    EXPECT_EQ(picture.top, 490);
+    const Ink words = inkOf(target, allOf(target), RGB{255, 255, 255});
+    EXPECT_GE(words.top, 38) << "the caption: 2 % of the width from the top";
+    EXPECT_LT(words.top, 80);
+    EXPECT_GE(words.bottom, 1026) << "the prompt: 95 % of the height from the top";
+    EXPECT_LT(words.bottom, 1066);
 
-    show->update([] { return true; });
-    EXPECT_THROW(
-        try { drawLootboxRoom(*show, target); } catch (const std::runtime_error& error) {
-            EXPECT_STREQ(error.what(), "Image not found: Santa");
-            throw;
-        },
-        std::runtime_error);
+    show.update(somebodyPresses);
+    EXPECT_THAT([&] { drawLootboxRoom(show, target); },
+                testing::ThrowsMessage<std::runtime_error>("Image not found: Santa"));
     EXPECT_THAT(prizesWon(), testing::UnorderedElementsAre("Alien1", "Santa")) << "what was won stays won";
-    EXPECT_EQ(getConfigInt("lootbox", "lootboxPoints", 0), 0);
 }
 
 // Whole matches, in which each of the two players takes so much cash in the first update; then the second one dies.
@@ -291,7 +254,6 @@ class CashInMatches : public MatchStage {
   protected:
     CashInMatches() {
         openConfig(folder.path + "/vandrel.cfg");
-        lootboxPoints = 0;
         onUpdate = [this](int /*round*/) {
             if (frameCounter != 0) {
                 return;
@@ -313,13 +275,10 @@ TEST_F(CashInMatches, PointsOfAMatchThatWasQuitCountAtTheNextOpening) {
     std::vector<std::pair<int, int>> counts;  // from and to
     MatchWorld real = world();
     real.roundEnd.lootboxRoom = [&] {
-        std::optional<LootboxShow> show = LootboxShow::open();
-        ASSERT_TRUE(show.has_value());
-        const int from = show->shownPoints();
-        for (int i = 0; i < 1000 && !show->promptShown(); ++i) {
-            show->update([] { return false; });
-        }
-        counts.emplace_back(from, show->shownPoints());
+        LootboxShow show = LootboxShow::open().value();
+        const int from = show.shownPoints();
+        countToTheEnd(show);
+        counts.emplace_back(from, show.shownPoints());
         LootboxShow::close();
     };
     const auto play = [&](int cash, int closeAt) {
@@ -328,7 +287,7 @@ TEST_F(CashInMatches, PointsOfAMatchThatWasQuitCountAtTheNextOpening) {
         return play_the_game(false, "", {}, real);
     };
     EXPECT_TRUE(play(2, 10));
-    EXPECT_THAT(counts, IsEmpty());
+    EXPECT_THAT(counts, testing::IsEmpty());
     EXPECT_EQ(getConfigInt("lootbox", "lootboxPoints", 0), 0) << "written when they were counted";
     EXPECT_FALSE(play(1, -1));
     EXPECT_TRUE(play(1, 10));

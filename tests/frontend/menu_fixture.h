@@ -54,12 +54,15 @@ class MenuTest : public testing::Test {
         keys.clear();
     }
 
+    void update(VandrelMenu& menu, int updates) const {
+        for (int i = 0; i < updates; ++i) {
+            menu.update(limit);
+        }
+    }
     // Updates with nothing held, until every wait is over.
     void idle(VandrelMenu& menu) {
         keys.clear();
-        for (int i = 0; i < 11; ++i) {
-            menu.update(limit);
-        }
+        update(menu, 11);
     }
 
     static std::vector<HeardSample>& heard() {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -12,6 +12,7 @@
 #include "frontend/screen_stage.h"
 #include "frontend/title_figure.h"
 #include "presentation/bitmap_ids.h"
+#include "presentation/ink.h"
 
 namespace vandrel {
 namespace {
@@ -19,23 +20,9 @@ namespace {
 constexpr RGB black{};
 constexpr RGB white{255, 255, 255};
 
-// The rows of the screen, from `top` on, that hold a pixel of that colour, as first and last.
-struct Band {
-    int first = -1;
-    int last = -1;
-};
-
-Band inkedRows(RGB colour, int top, int height) {
-    Band band;
-    for (int y = top; y < top + height; ++y) {
-        for (int x = 0; x < screen->width(); ++x) {
-            if (pixelAt(*screen, x, y) == colour) {
-                band = {band.first == -1 ? y : band.first, y};
-                break;
-            }
-        }
-    }
-    return band;
+// Of that colour in so many rows of the screen.
+Ink inkInRows(RGB colour, int top, int height) {
+    return inkOf(*screen, {0, top, screen->width(), top + height}, colour);
 }
 
 class MessageScreen : public ScreenStage {
@@ -51,26 +38,17 @@ TEST_F(MessageScreen, CentresItsRowsOnThePage) {
     for (const std::vector<std::string>& lines : shown) {
         clearTo(*screen, al_map_rgb(9, 9, 9));
         EXPECT_TRUE(msgScreen(lines, ALLEGRO_KEY_ENTER, noCancelKey));
-        const int inset = inkedRows(white, 212, 44).first - 212;  // of the capitals in their row
+        const int inset = inkInRows(white, 212, 44).top - 212;  // of the capitals in their row
         ASSERT_GE(inset, 0);
         ASSERT_LT(inset, 15);
         for (const int y : {212, 256, 300}) {
-            EXPECT_EQ(inkedRows(white, y, 44).first, y + inset);
+            const Ink row = inkInRows(white, y, 44);
+            EXPECT_EQ(row.top, y + inset);
+            EXPECT_NEAR(row.left + row.right, 800, 4);
         }
-        EXPECT_EQ(inkedRows(white, 0, 212).first, -1);
-        EXPECT_EQ(inkedRows(white, 344, 256).first, -1);
+        EXPECT_EQ(inkInRows(white, 0, 212).count, 0);
+        EXPECT_EQ(inkInRows(white, 344, 256).count, 0);
         EXPECT_EQ(pixelAt(*screen, 0, 0), black) << "what was there before is gone";
-        int left = 800;
-        int right = 0;
-        for (int x = 0; x < 800; ++x) {
-            for (int y = 212; y < 256; ++y) {
-                if (pixelAt(*screen, x, y) == white) {
-                    left = std::min(left, x);
-                    right = x;
-                }
-            }
-        }
-        EXPECT_NEAR(left + right, 800, 4);
     }
 }
 
@@ -108,20 +86,15 @@ TEST_F(MessageScreen, EndsByItsKeysAlone) {
 }
 
 TEST(TitleFigure, ItsJointsSwingAndCarryWhatHangsFromThem) {
-    struct Case {
-        float clock;
-        int id;
-        Pixel expected;
-    };
-    const Case cases[] = {
+    const std::tuple<float, int, Pixel> joints[] = {
         {0.0f, 3, {250, 760}},  {0.0f, 1, {250, 770}},  {0.0f, 2, {514, 761}},  {0.0f, 4, {563, 761}},
         {0.0f, 6, {397, 660}},  {0.0f, 13, {456, 992}}, {1.5f, 1, {349, 683}},  {1.5f, 2, {402, 819}},
         {1.5f, 13, {477, 969}}, {1.5f, 19, {403, 632}}, {4.0f, 13, {424, 942}}, {4.0f, 7, {318, 563}},
     };
     TitleFigure figure;
-    for (const Case& c : cases) {
-        figure.clock = c.clock;
-        EXPECT_EQ(figure.position(c.id), c.expected) << "joint " << c.id << " at " << c.clock;
+    for (const auto& [clock, id, expected] : joints) {
+        figure.clock = clock;
+        EXPECT_EQ(figure.position(id), expected) << "joint " << id << " at " << clock;
     }
     EXPECT_THROW(figure.position(20), std::out_of_range);
 }
@@ -141,13 +114,8 @@ TEST_F(TitleFigureDrawing, DrawsLinesTheHeadAndTwoDots) {
     EXPECT_EQ(pixelAt(*screen, (corner.x + opposite.x) / 2, corner.y), white);
     EXPECT_EQ(pixelAt(*screen, opposite.x, (corner.y + opposite.y) / 2), white);
     for (const int id : {14, 15}) {
-        int inked = 0;
-        for (int y = at(id).y - 3; y <= at(id).y + 3; ++y) {
-            for (int x = at(id).x - 3; x <= at(id).x + 3; ++x) {
-                inked += pixelAt(*screen, x, y) == white ? 1 : 0;
-            }
-        }
-        EXPECT_EQ(inked, 4) << "dot " << id;
+        const Ink dot = inkOf(*screen, {at(id).x - 3, at(id).y - 3, at(id).x + 4, at(id).y + 4}, white);
+        EXPECT_EQ(dot.count, 4) << "dot " << id;
         EXPECT_EQ(pixelAt(*screen, at(id).x - 1, at(id).y - 1), white);
     }
 }
@@ -174,31 +142,22 @@ TEST_F(Credits, AllRowsStandOnThePageBelowTheLogo) {
     EXPECT_EQ(pixelAt(*screen, 960 - 320, 0), (RGB{0, 0, 200}));
     EXPECT_EQ(pixelAt(*screen, 960 + 319, 159), (RGB{0, 0, 200}));
     EXPECT_EQ(pixelAt(*screen, 960 + 320, 0), black);
-    EXPECT_GE(inkedRows({255, 208, 208}, 190, 33).first, 190) << "the first heading";
-    EXPECT_GE(inkedRows({208, 255, 208}, 190, 890).first, 190);
-    EXPECT_GE(inkedRows({208, 208, 255}, 190, 890).first, 190);
-    const Band names = inkedRows(white, 0, 1080);
-    EXPECT_GE(names.first, 190 + 33);
-    EXPECT_GT(names.last, 900);
-    EXPECT_LT(names.last, 1070) << "the last row is cut off";
+    EXPECT_GT(inkInRows({255, 208, 208}, 190, 33).count, 0) << "the first heading";
+    EXPECT_GT(inkInRows({208, 255, 208}, 190, 890).count, 0);
+    EXPECT_GT(inkInRows({208, 208, 255}, 190, 890).count, 0);
+    const Ink names = inkInRows(white, 0, 1080);
+    EXPECT_GE(names.top, 190 + 33);
+    EXPECT_GT(names.bottom, 900);
+    EXPECT_LT(names.bottom, 1070) << "the last row is cut off";
 }
 
 TEST_F(Credits, TheSealWandersOverThePageTurningAndGrowing) {
     int sizeBefore = 0;
     for (const auto& [ticks, corner] : {std::pair{105, Pixel{1792, 537}}, std::pair{314, Pixel{961, 538}}}) {
         leaveAt(ticks);
-        int size = 0;
-        int nearest = 1'000'000;
-        for (int y = 0; y < 1080; ++y) {
-            for (int x = 0; x < 1920; ++x) {
-                if (pixelAt(*screen, x, y) == sealColour) {
-                    ++size;
-                    nearest = std::min(nearest, std::abs(x - corner.x) + std::abs(y - corner.y));
-                }
-            }
-        }
-        EXPECT_GT(size, 0);
-        EXPECT_LE(nearest, 3) << "the corner after " << ticks << " updates";
+        const Part aroundCorner{corner.x - 2, corner.y - 2, corner.x + 3, corner.y + 3};
+        EXPECT_GT(inkOf(*screen, aroundCorner, sealColour).count, 0) << "after " << ticks << " updates";
+        const int size = inkOf(*screen, allOf(*screen), sealColour).count;
         EXPECT_NE(size, sizeBefore);
         sizeBefore = size;
     }

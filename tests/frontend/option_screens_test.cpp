@@ -4,11 +4,13 @@
 #include <gmock/gmock.h>
 
 #include <memory>
-#include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "arena/bonus.h"
 #include "frontend/menu_fixture.h"
+#include "frontend/menu_rows.h"
 #include "frontend/start_game.h"
 #include "match/options/game_options.h"
 #include "shell/config.h"
@@ -33,19 +35,12 @@ class OptionScreens : public MenuTest {
     }
 
     std::shared_ptr<VandrelMenu> open(const std::string& name) {
-        if (name == "Start game") {
-            return startGameMenu(context, look);
-        }
-        if (name == "Everything") {
-            return everythingMenu(context, look);
-        }
-        if (name == "Level") {
-            return levelMenu(context);
-        }
-        if (name == "Player") {
-            return playerMenu(context);
-        }
-        return name == "Snake Hunter" ? snakeHunterMenu(context) : powerupsMenu(context);
+        return name == "Start game"     ? startGameMenu(context, look)
+               : name == "Everything"   ? everythingMenu(context, look)
+               : name == "Level"        ? levelMenu(context)
+               : name == "Player"       ? playerMenu(context)
+               : name == "Snake Hunter" ? snakeHunterMenu(context)
+                                        : powerupsMenu(context);
     }
 
     // What a player reads: "#" before a heading, "-" for a gap, values behind a colon.
@@ -64,15 +59,6 @@ class OptionScreens : public MenuTest {
                            (entry->valueText().empty() ? "" : ": " + entry->valueText()));
         }
         return rows;
-    }
-
-    static CmdButtonBase& row(const VandrelMenu& menu, const std::string& text) {
-        for (const auto& entry : menu.entries()) {
-            if (entry->text() == text && !entry->isHeading()) {
-                return *entry;
-            }
-        }
-        throw std::runtime_error("no row " + text);
     }
 
     // Looks on instead of playing.
@@ -160,7 +146,7 @@ TEST_F(OptionScreens, EachNumberAndChoiceEditsItsFieldWithinItsRange) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.label);
         const auto menu = open(c.screen);
-        CmdButtonBase& entry = row(*menu, c.label);
+        CmdButtonBase& entry = rowOf(*menu, c.label);
         int& field = gameOptions.*c.field;
         field = c.highest - 1;
         entry.press();
@@ -175,13 +161,8 @@ TEST_F(OptionScreens, EachNumberAndChoiceEditsItsFieldWithinItsRange) {
 }
 
 TEST_F(OptionScreens, EachSwitchEditsItsField) {
-    struct Case {
-        const char* screen;
-        const char* label;
-        bool& field;
-    };
     GameOptions& o = gameOptions;
-    const Case cases[]{
+    const std::tuple<const char*, const char*, bool&> switches[]{
         {"Everything", "Capture the Flag", o.everythingCTF},
         {"Everything", "Battle Royale", o.everythingBattleRoyale},
         {"Everything", "King of the Hill", o.everythingKotH},
@@ -192,13 +173,12 @@ TEST_F(OptionScreens, EachSwitchEditsItsField) {
         {"Player", "Remote Control explosion delay", o.remoteExplosionDelay},
         {"Snake Hunter", "Respawn walls", o.respawnWalls[4].enabled},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.label);
-        const auto menu = open(c.screen);
-        const bool before = c.field;
-        row(*menu, c.label).press();
-        EXPECT_EQ(c.field, !before);
-        EXPECT_EQ(row(*menu, c.label).valueText(), before ? "Off" : "On");
+    for (const auto& [screenName, label, field] : switches) {
+        const auto menu = open(screenName);
+        const bool before = field;
+        rowOf(*menu, label).press();
+        EXPECT_EQ(field, !before) << label;
+        EXPECT_EQ(rowOf(*menu, label).valueText(), before ? "Off" : "On") << label;
     }
 }
 
@@ -209,46 +189,47 @@ TEST_F(OptionScreens, EveryPowerupButDeathCanBeLeftOut) {
         if (entry->valueText().empty()) {
             continue;
         }
-        bonus += bonus == 9 ? 1 : 0;
-        EXPECT_FALSE(gameOptions.powerupDisabled.at(static_cast<std::size_t>(bonus)));
+        bonus += bonus == Bonus::Death ? 1 : 0;
+        const auto& disabled = gameOptions.powerupDisabled.at(static_cast<std::size_t>(bonus));
+        EXPECT_FALSE(disabled);
         entry->press();
-        EXPECT_TRUE(gameOptions.powerupDisabled.at(static_cast<std::size_t>(bonus))) << entry->text();
+        EXPECT_TRUE(disabled) << entry->text();
         EXPECT_EQ(entry->valueText(), "Off");
         ++bonus;
     }
     EXPECT_EQ(bonus, 22);
-    EXPECT_FALSE(gameOptions.powerupDisabled[9]);
+    EXPECT_FALSE(gameOptions.powerupDisabled[Bonus::Death]);
 }
 
 TEST_F(OptionScreens, ModesStartAMatchAndTheOtherActionsLeadOn) {
     const auto start = open("Start game");
     press(*start, {ALLEGRO_KEY_ENTER});  // the row that is highlighted first
     for (const char* mode : {"Capture the Flag", "Battle Royale", "King of the Hill", "Snake Hunter", "Deathmatch"}) {
-        row(*start, mode).press();
+        rowOf(*start, mode).press();
     }
-    row(*open("Everything"), "Begin game").press();
+    rowOf(*open("Everything"), "Begin game").press();
     EXPECT_THAT(startedModes, ElementsAre(GameMode::Classic, GameMode::CaptureTheFlag, GameMode::BattleRoyale,
                                           GameMode::KingOfTheHill, GameMode::SnakeHunter, GameMode::Deathmatch,
                                           GameMode::Everything));
     EXPECT_TRUE(context.stack.menus.empty()) << "the menu of the mode stays";
 
-    const std::vector<std::string> ways[] = {
+    const std::tuple<const char*, const char*, const char*> ways[] = {
         {"Start game", "EVERYTHING", "Everything options"},
         {"Start game", "Custom Game Options", "Level options"},
         {"Level", "Player options", "Player options"},
         {"Level", "Snake Hunter options", "Snake Hunter options"},
         {"Level", "Customise powerups", "Customise powerups"},
     };
-    for (const std::vector<std::string>& way : ways) {
-        row(*open(way[0]), way[1]).press();
-        ASSERT_EQ(context.stack.menus.size(), 1U) << way[1];
+    for (const auto& [from, action, title] : ways) {
+        rowOf(*open(from), action).press();
+        ASSERT_EQ(context.stack.menus.size(), 1U) << action;
         const VandrelMenu& opened = *context.stack.menus.back();
-        EXPECT_EQ(opened.entries().front()->text(), way[2]);
-        row(opened, "Back").press();
-        EXPECT_TRUE(context.stack.backRequested) << way[2];
+        EXPECT_EQ(opened.entries().front()->text(), title);
+        rowOf(opened, "Back").press();
+        EXPECT_TRUE(context.stack.backRequested) << title;
         context.stack.pop();
     }
-    row(*start, "Back").press();
+    rowOf(*start, "Back").press();
     EXPECT_TRUE(context.stack.backRequested);
 }
 
@@ -259,7 +240,7 @@ TEST_F(OptionScreens, QuickStartIsOfferedOnRequestFromTwoToAHundredPlayers) {
     rows.erase(rows.begin(), rows.end() - 6);
     EXPECT_THAT(rows,
                 ElementsAre("Custom Game Options", "-", "# Quick start options", "Quick Start: Off", "-", "Back"));
-    CmdButtonBase& quickStart = row(*menu, "Quick Start");
+    CmdButtonBase& quickStart = rowOf(*menu, "Quick Start");
     quickStart.decrease();
     EXPECT_EQ(gameOptions.quickStartPlayers, 99);
     EXPECT_EQ(quickStart.valueText(), "100 players");

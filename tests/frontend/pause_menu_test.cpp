@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 
 #include "arena/arena.h"
 #include "frontend/menu_audio.h"
@@ -114,22 +115,16 @@ TEST_F(WholeScreens, APauseGoesOnOnceNobodyHoldsTheBombButton) {
 }
 
 TEST_F(WholeScreens, APauseShowsWhatLiesBehindAndFitsASmallArena) {
-    struct Case {
-        int width;
-        int height;
-        bool dim;
-        int firstRow;
-        int brightness;
-    };
-    const Case cases[] = {{864, 480, false, 100, 255}, {864, 480, true, 100, 31}, {416, 300, true, 20, 31}};
-    for (const Case& c : cases) {
-        setScreenSize(c.width, c.height);
+    const std::tuple<int, int, bool, int, int> cases[] = {
+        {864, 480, false, 100, 255}, {864, 480, true, 100, 31}, {416, 300, true, 20, 31}};
+    for (const auto& [width, height, dim, firstRow, brightness] : cases) {
+        setScreenSize(width, height);
         clearTo(*screen, toColour(white));
         keys = {ALLEGRO_KEY_DOWN, ALLEGRO_KEY_UP, ALLEGRO_KEY_ENTER};
-        EXPECT_FALSE(pauseMenu(nullptr, c.dim));
-        EXPECT_NEAR(pixelAt(*screen, 2, 2).red, c.brightness, 1);
-        EXPECT_EQ(pixelAt(*screen, 2, c.firstRow + 2), highlight) << c.width;
-        EXPECT_NE(pixelAt(*screen, 2, c.firstRow - 2), highlight) << c.width;
+        EXPECT_FALSE(pauseMenu(nullptr, dim));
+        EXPECT_NEAR(pixelAt(*screen, 2, 2).red, brightness, 1);
+        EXPECT_EQ(pixelAt(*screen, 2, firstRow + 2), highlight) << width;
+        EXPECT_NE(pixelAt(*screen, 2, firstRow - 2), highlight) << width;
     }
 }
 

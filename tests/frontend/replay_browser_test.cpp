@@ -9,14 +9,14 @@
 #include <string>
 #include <vector>
 
+#include "frontend/menu_rows.h"
 #include "frontend/screen_stage.h"
+#include "presentation/ink.h"
 #include "replay/unit/describe_replay.h"
 #include "replay/unit/replay_names.h"
-#include "shell/log.h"
 #include "shell/paths.h"
 #include "shell/shell_test_tools.h"
 #include "shell/switches.h"
-#include "support/round_fixture.h"
 
 namespace vandrel {
 namespace {
@@ -40,21 +40,11 @@ TEST(FileTime, IsShownInUTCWithLeadingZerosInHoursAndMinutesOnly) {
 
 class ReplayBrowser : public ScreenStage {
   protected:
-    ReplayBrowser() : context_(1920), outputBefore_(setDebugOutput(keepLine)) {
+    ReplayBrowser() {
         fs::create_directories(folder_ / "kept");
         showReplayTestOptions = false;
-        log().clear();
     }
-    ~ReplayBrowser() override {
-        showReplayTestOptions = false;
-        setDebugOutput(outputBefore_);
-    }
-
-    static std::string& log() {
-        static std::string text;
-        return text;
-    }
-    static void keepLine(const char* line, std::size_t length) { log().append(line, length); }
+    ~ReplayBrowser() override { showReplayTestOptions = false; }
 
     // A file of the folder with that age in minutes; `source` is a golden round, or none for an empty file.
     std::string put(const std::string& name, int age, int source = 0) {
@@ -82,30 +72,20 @@ class ReplayBrowser : public ScreenStage {
         });
     }
 
-    static std::vector<std::string> rowsOf(const VandrelMenu& menu) {
-        std::vector<std::string> rows;
-        for (const auto& entry : menu.entries()) {
-            rows.push_back(entry->text());
-        }
-        return rows;
-    }
-
     void answerWith(int keycode) {
         keysAt = [keycode](int tick) { return tick == 3 ? std::set<int>{keycode} : std::set<int>{}; };
     }
 
     test::ScratchDirectory data_;
     fs::path folder_ = replaysDir();
-    MenuContext context_;
+    MenuContext context_{1920};
     std::vector<std::string> played_;
     std::size_t quitAt_ = 0;
-
-  private:
-    DebugOutput outputBefore_;
+    test::CapturedLog log_;
 };
 
 TEST_F(ReplayBrowser, ListsWhatThereIsNewestFirstAndSaysWhatItIs) {
-    EXPECT_THAT(rowsOf(*open()), ElementsAre("Back"));
+    EXPECT_THAT(textsOf(*open()), ElementsAre("Back"));
     put("7.1.1.2.replay", 0, 14);
     put("kept/12.replay", 424, 10);
     put("8.1.1.2.replay", 60);
@@ -115,7 +95,7 @@ TEST_F(ReplayBrowser, ListsWhatThereIsNewestFirstAndSaysWhatItIs) {
         const std::string path = (folder_ / name).string();
         return std::to_string((fs::file_size(path) + fs::file_size(path + ".verifyZ") + 11) / 1024) + "kB";
     };
-    EXPECT_THAT(rowsOf(*open()),
+    EXPECT_THAT(textsOf(*open()),
                 ElementsAre("7 - 2026/11/5 07:04 - CTF - 8 players - 1.1.2 - " + kilobytes("7.1.1.2.replay"),
                             "8 - Error - select for details - 0kB", HasSubstr("12 - 2026/11/5 00:00 - "), "Back"));
     showReplayTestOptions = true;
@@ -142,12 +122,8 @@ TEST_F(ReplayBrowser, PlaysARoundOrShowsWhyItCannot) {
     EXPECT_GE(ticks, 5);
     EXPECT_THAT(played_, testing::SizeIs(1)) << "what has errors is not played";
     const auto isInked = [](int y) {
-        for (int x = 0; x < screen->width(); ++x) {
-            if (pixelAt(*screen, x, y).red > 128) {
-                return true;
-            }
-        }
-        return false;
+        const auto isLight = [](RGB pixel) { return pixel.red > 128; };
+        return inkOf(*screen, {0, y, screen->width(), y + 1}, isLight).count > 0;
     };
     int rows = 0;
     for (int y = 1; y < screen->height(); ++y) {
@@ -168,7 +144,7 @@ TEST_F(ReplayBrowser, DeletesARoundWithAllThatBelongsToItOnceThatIsConfirmed) {
     EXPECT_TRUE(fs::exists(path));
     answerWith(ALLEGRO_KEY_Y);
     row.deleteKey();
-    EXPECT_THAT(rowsOf(*menu), ElementsAre("DELETED", HasSubstr("2 - "), "Back")) << "nothing moves";
+    EXPECT_THAT(textsOf(*menu), ElementsAre("DELETED", HasSubstr("2 - "), "Back")) << "nothing moves";
     for (const char* suffix : {"", ".verify", ".verifyZ"}) {
         EXPECT_FALSE(fs::exists(path + suffix)) << suffix;
         EXPECT_TRUE(fs::exists(other + suffix)) << suffix;
@@ -177,7 +153,7 @@ TEST_F(ReplayBrowser, DeletesARoundWithAllThatBelongsToItOnceThatIsConfirmed) {
     row.press();
     row.deleteKey();  // a question would wait for ever
     EXPECT_THAT(played_, testing::IsEmpty());
-    EXPECT_THAT(rowsOf(*open()), ElementsAre(HasSubstr("2 - "), "Back"));
+    EXPECT_THAT(textsOf(*open()), ElementsAre(HasSubstr("2 - "), "Back"));
     answerWith(ALLEGRO_KEY_Y);
     put("3.1.1.2.replay", 2);
     open()->entries()[1]->deleteKey();
@@ -193,13 +169,15 @@ TEST_F(ReplayBrowser, TestsAllThatCanBePlayedUntilOneIsQuit) {
     open()->entries()[0]->press();
     EXPECT_THAT(played_, ElementsAre("3.1.1.2.replay fast without end", "1.1.1.2.replay fast without end",
                                      "4.1.1.2.replay fast without end"));
-    EXPECT_THAT(log(), testing::ContainsRegex(": Test all replays: [0-9]+\\.[0-9]{6} seconds\n"));
+    const testing::Matcher<std::string> saysHowLong =
+        testing::ContainsRegex(": Test all replays: [0-9]+\\.[0-9]{6} seconds\n");
+    EXPECT_THAT(log_.text(), saysHowLong);
     played_.clear();
-    log().clear();
     quitAt_ = 2;
+    const test::CapturedLog logOfTheSecond;
     open()->entries()[0]->press();
     EXPECT_THAT(played_, testing::SizeIs(2));
-    EXPECT_THAT(log(), HasSubstr("Test all replays: ")) << "a test that was quit ends with its line, too";
+    EXPECT_THAT(logOfTheSecond.text(), saysHowLong) << "a test that was quit ends with its line, too";
 }
 
 }  // namespace

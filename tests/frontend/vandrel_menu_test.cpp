@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <tuple>
 
 #include "frontend/menu_fixture.h"
 #include "frontend/menu_stack.h"
@@ -15,7 +16,7 @@ constexpr std::array<const char*, 2> offOn{"Off", "On"};
 
 void addRows(VandrelMenu& menu, int count) {
     for (int i = 0; i < count; ++i) {
-        menu.addAction(left, "row " + std::to_string(i), std::function<void()>());
+        menu.addAction(left, "row", std::function<void()>());
     }
 }
 
@@ -48,9 +49,7 @@ TEST_F(MenuTest, AHeldDirectionSpeedsUpOverTwoHundredSteps) {
 
     VandrelMenu next(&layoutDefault);
     addRows(next, 7);
-    for (int update = 0; update < 12; ++update) {
-        next.update(limit);
-    }
+    update(next, 12);
     EXPECT_EQ(next.selected(), 2) << "the pace carries over";
     idle(next);
     EXPECT_EQ(keyRepeatDelay, 10);
@@ -83,18 +82,6 @@ TEST_F(MenuTest, TheSelectionPassesHeadingsAndWrapsRound) {
     EXPECT_EQ(empty.selected(), 0);
 }
 
-TEST_F(MenuTest, RowsStandAStepApartAndMayOverlap) {
-    VandrelMenu menu(&layoutDefault);
-    addRows(menu, 2);
-    menu.addGap();
-    addRows(menu, 1);
-    EXPECT_EQ(entry(menu, 0).y, 300);
-    EXPECT_EQ(entry(menu, 0).bottom, 351);
-    EXPECT_EQ(entry(menu, 1).y, 348);
-    EXPECT_EQ(entry(menu, 2).y, 348 + 48 + 24);
-    EXPECT_EQ(entry(menu, 0).width, 344);
-}
-
 TEST_F(MenuTest, AListTallerThanTheScreenScrolls) {
     VandrelMenu menu(&layoutSmall);  // rows from 300, 40 apart, 51 high
     addRows(menu, 10);
@@ -103,25 +90,22 @@ TEST_F(MenuTest, AListTallerThanTheScreenScrolls) {
     EXPECT_EQ(menu.scrollY(), 0);
     EXPECT_TRUE(menu.moreBelow());
     EXPECT_FALSE(menu.moreAbove());
-    for (int i = 0; i < 4; ++i) {
-        press(menu, {ALLEGRO_KEY_DOWN});
-    }
-    idle(menu);
-    EXPECT_EQ(menu.selected(), 4);
+    const auto goTo = [&](int row) {
+        while (menu.selected() != row) {
+            press(menu, {ALLEGRO_KEY_DOWN});
+        }
+        idle(menu);
+    };
+    goTo(4);
     EXPECT_EQ(menu.scrollY(), 479 - 511) << "just as far as the row needs";
     EXPECT_FALSE(menu.moreAbove()) << "the first row still reaches into the band";
-    press(menu, {ALLEGRO_KEY_DOWN});
-    idle(menu);
+    goTo(5);
     EXPECT_TRUE(menu.moreAbove());
     EXPECT_TRUE(menu.moreBelow());
-    for (int i = 0; i < 4; ++i) {
-        press(menu, {ALLEGRO_KEY_DOWN});
-    }
-    idle(menu);
+    goTo(9);
     EXPECT_TRUE(menu.moreAbove());
     EXPECT_FALSE(menu.moreBelow()) << "the last row ends at the limit";
-    press(menu, {ALLEGRO_KEY_DOWN});
-    idle(menu);
+    goTo(0);
     EXPECT_EQ(menu.scrollY(), 0) << "wrapped to the top";
 }
 
@@ -142,22 +126,17 @@ TEST_F(MenuTest, NumbersNamesAndSwitches) {
             press(menu, {ALLEGRO_KEY_DOWN});
         }
     };
-    struct Case {
-        int row;
-        int key;
-        std::string shown;
-    };
-    const Case cases[] = {
+    const std::tuple<int, int, const char*> steps[] = {
         {0, ALLEGRO_KEY_RIGHT, "100"},  {0, ALLEGRO_KEY_RIGHT, "0"},   {0, ALLEGRO_KEY_LEFT, "100"},
         {0, ALLEGRO_KEY_ENTER, "0"},    {1, ALLEGRO_KEY_RIGHT, "0"},   {1, ALLEGRO_KEY_LEFT, "100"},
         {1, ALLEGRO_KEY_LEFT, "70"},    {2, ALLEGRO_KEY_LEFT, "many"}, {2, ALLEGRO_KEY_ENTER, "few"},
         {2, ALLEGRO_KEY_RIGHT, "some"}, {3, ALLEGRO_KEY_LEFT, "On"},   {3, ALLEGRO_KEY_RIGHT, "Off"},
         {3, ALLEGRO_KEY_ENTER, "On"},
     };
-    for (const Case& c : cases) {
-        choose(c.row);
-        press(menu, {c.key});
-        EXPECT_EQ(entry(menu, static_cast<std::size_t>(c.row)).valueText(), c.shown) << c.row << ", key " << c.key;
+    for (const auto& [row, key, shown] : steps) {
+        choose(row);
+        press(menu, {key});
+        EXPECT_EQ(entry(menu, static_cast<std::size_t>(row)).valueText(), shown) << row << ", key " << key;
     }
     EXPECT_TRUE(on);
     EXPECT_EQ(heard().back(), (HeardSample{SampleIds::Slide, 255, 128, 2000}));
@@ -175,9 +154,7 @@ TEST_F(MenuTest, AColourStepsAtItsOwnPaceFromTheStart) {
     menu.addInt(left, "Green", &red, 0, 255, 1);
     idle(menu);
     keys = {ALLEGRO_KEY_RIGHT};
-    for (int update = 0; update < 21; ++update) {
-        menu.update(limit);
-    }
+    update(menu, 21);
     EXPECT_EQ(red, 11) << "every second update";
 }
 
@@ -224,21 +201,14 @@ TEST_F(MenuTest, APressIsNotSeenDuringAWaitAndCountsOnceOverAllScreens) {
     };
     const auto first = make(layoutDefault);
     keys = {ALLEGRO_KEY_ENTER};
-    for (int update = 1; update <= 9; ++update) {
-        first->update(limit);
-    }
+    update(*first, 9);
     EXPECT_EQ(pressed, 0);
-    first->update(limit);
+    update(*first, 1);
     EXPECT_EQ(pressed, 1) << "still down when the wait is over";
     const auto second = make(layoutPause);
-    for (int update = 0; update < 30; ++update) {
-        second->update(limit);
-    }
+    update(*second, 30);
     EXPECT_EQ(pressed, 1) << "held since the screen before";
-    keys.clear();
-    second->update(limit);
-    keys = {ALLEGRO_KEY_ENTER};
-    second->update(limit);
+    press(*second, {ALLEGRO_KEY_ENTER});
     EXPECT_EQ(pressed, 2);
 }
 
@@ -247,31 +217,24 @@ TEST_F(MenuTest, ControllersSteerAsTheModeAdmits) {
     theControlsManager->devices.push_back(first);
     const auto second = addController();
     theControlsManager->listHolders = [&second] { return std::vector<DeviceHolder>{{0, second}}; };
-    struct Case {
-        int mode;
-        const VandrelMenuLayoutOptions* layout;
-        bool steers;
-    };
-    const Case cases[] = {
+    const std::tuple<int, const VandrelMenuLayoutOptions*, bool> cases[] = {
         {0, &layoutDefault, false}, {0, &layoutPause, false},  {1, &layoutDefault, false},
         {1, &layoutPause, true},    {2, &layoutDefault, true}, {2, &layoutPause, true},
     };
-    for (const Case& c : cases) {
-        menuControlMode = c.mode;
+    for (const auto& [mode, layout, steers] : cases) {
+        menuControlMode = mode;
         int pressed = 0;
-        VandrelMenu menu(c.layout);
+        VandrelMenu menu(layout);
         addRows(menu, 2);
         menu.addAction(left, "press", [&pressed] { ++pressed; });
-        idle(menu);
-        second->held = {.up = true};
-        menu.update(limit);
-        second->held = {};
-        idle(menu);
-        second->held = {.fire = true};
-        menu.update(limit);
-        second->held = {};
-        EXPECT_EQ(menu.selected(), c.steers ? 2 : 0) << "mode " << c.mode;
-        EXPECT_EQ(pressed, c.steers ? 1 : 0) << "mode " << c.mode;
+        for (const HeldKeys& held : {HeldKeys{.up = true}, HeldKeys{.fire = true}}) {
+            idle(menu);
+            second->held = held;
+            menu.update(limit);
+            second->held = {};
+        }
+        EXPECT_EQ(menu.selected(), steers ? 2 : 0) << "mode " << mode;
+        EXPECT_EQ(pressed, steers ? 1 : 0) << "mode " << mode;
         idle(menu);
     }
 }
