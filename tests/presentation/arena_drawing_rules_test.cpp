@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "arena/background_drawing.h"
@@ -26,30 +28,28 @@ class ArenaDrawingRules : public ::testing::Test {
 };
 
 TEST_F(ArenaDrawingRules, KindsHaveTheirImages) {
-    struct {
-        int first;
-        int last;
-        std::optional<BitmapIds> bitmap;
-    } const cases[] = {
-        {0, 0, {}},
-        {1, 1, Block4},
-        {2, 2, Block3},
-        {3, 4, Wall3},
-        {5, 5, Wall3CrumbleNew},
-        {6, 6, Wall3CrumbleNew2},
-        {7, 9, {}},
-        {10, 19, W3NDth1},
-        {20, 29, W3NDth2},
-        {30, 39, {}},
-        {40, 44, Wall3CrumbleNewDeath},
-        {45, 49, Wall3CrumbleNewDeath2},
-        {50, 54, Wall3CrumbleNewDeath3},
-        {55, 59, Wall3CrumbleNewDeath4},
-        {60, 70, {}},
+    // Up to which kind, from the one behind the row before.
+    const std::pair<int, std::optional<BitmapIds>> kinds[] = {
+        {0, {}},
+        {1, Block4},
+        {2, Block3},
+        {4, Wall3},
+        {5, Wall3CrumbleNew},
+        {6, Wall3CrumbleNew2},
+        {9, {}},
+        {19, W3NDth1},
+        {29, W3NDth2},
+        {39, {}},
+        {44, Wall3CrumbleNewDeath},
+        {49, Wall3CrumbleNewDeath2},
+        {54, Wall3CrumbleNewDeath3},
+        {59, Wall3CrumbleNewDeath4},
+        {70, {}},
     };
-    for (const auto& each : cases) {
-        for (int kind = each.first; kind <= each.last; ++kind) {
-            EXPECT_EQ(wallBitmap(kind), each.bitmap) << kind;
+    int kind = 0;
+    for (const auto& [last, bitmap] : kinds) {
+        for (; kind <= last; ++kind) {
+            EXPECT_EQ(wallBitmap(kind), bitmap) << kind;
         }
     }
 }
@@ -66,26 +66,20 @@ TEST_F(ArenaDrawingRules, RunsJoinEqualKindsOnly) {
 }
 
 TEST_F(ArenaDrawingRules, ClosingWallsArriveInFiveStyles) {
-    struct {
-        int style;
-        int countdown;
-        int stepFrames;
-        bool spins;
-        float angle;
-        float scale;
-        int alpha;
-    } const cases[] = {
+    // Style, countdown and frames a step; whether it spins, angle, scale and alpha.
+    const std::tuple<int, int, int, bool, float, float, int> arrivals[] = {
         {0, 2, 2, false, 0.0f, 0.0f, 255},   {1, 2, 2, true, 63.0f, 0.0f, 255},  {2, 2, 2, false, 0.0f, 1.0f, 63},
         {3, 2, 2, false, 0.0f, 0.0f, 63},    {4, 2, 2, true, 63.0f, 0.0f, 63},   {0, 1, 2, false, 0.0f, 0.5f, 255},
         {1, 1, 2, true, 127.0f, 0.5f, 255},  {2, 1, 16, false, 0.0f, 1.0f, 239}, {3, 4, 16, false, 0.0f, 0.75f, 191},
         {4, 12, 16, true, 63.0f, 0.25f, 63}, {2, 16, 16, false, 0.0f, 1.0f, 0},
     };
-    for (const auto& each : cases) {
-        const WallArrival arrival = wallArrival(each.style, each.countdown, each.stepFrames);
-        EXPECT_EQ(arrival.spins, each.spins) << each.style;
-        EXPECT_FLOAT_EQ(arrival.angle, each.angle) << each.style;
-        EXPECT_FLOAT_EQ(arrival.scale, each.scale) << each.style;
-        EXPECT_EQ(arrival.alpha, each.alpha) << each.style;
+    for (const auto& [style, countdown, stepFrames, spins, angle, scale, alpha] : arrivals) {
+        SCOPED_TRACE(style);
+        const WallArrival arrival = wallArrival(style, countdown, stepFrames);
+        EXPECT_EQ(arrival.spins, spins);
+        EXPECT_FLOAT_EQ(arrival.angle, angle);
+        EXPECT_FLOAT_EQ(arrival.scale, scale);
+        EXPECT_EQ(arrival.alpha, alpha);
     }
 }
 
@@ -116,12 +110,9 @@ TEST_F(ArenaDrawingRules, BombPicturesRunOutWithTheFuse) {
         bomb.fuse = fuse;
         return bitmapIndex(bombBitmap(bomb)) - bitmapIndex(Bomb1) + 1;
     };
-    EXPECT_EQ(numberOf(90), 1);
-    EXPECT_EQ(numberOf(86), 1);
-    EXPECT_EQ(numberOf(85), 2);
-    EXPECT_EQ(numberOf(40), 12) << "a short fuse starts in the middle";
-    EXPECT_EQ(numberOf(3), 21);
-    EXPECT_EQ(numberOf(0), 21);
+    for (const auto& [fuse, number] : {std::pair{90, 1}, {86, 1}, {85, 2}, {40, 12}, {3, 21}, {0, 21}}) {
+        EXPECT_EQ(numberOf(fuse), number) << fuse;
+    }
     gameOptions.frameMultiplier = 2;
     EXPECT_EQ(numberOf(180), 1);
     EXPECT_EQ(numberOf(90), 11);
@@ -143,12 +134,8 @@ TEST_F(ArenaDrawingRules, PowerupsHaveImagesExceptTheOneThatIsNeverPlaced) {
         EXPECT_EQ(bonusBitmap(hidden), B_Quest);
     }
     for (const int unknown : {Bonus::Death, 22}) {
-        try {
-            bonusBitmap(unknown);
-            ADD_FAILURE() << unknown << " has an image";
-        } catch (const std::out_of_range& error) {
-            EXPECT_STREQ(error.what(), "invalid unordered_map<K, T> key");
-        }
+        EXPECT_THAT([unknown] { bonusBitmap(unknown); },
+                    testing::ThrowsMessage<std::out_of_range>("invalid unordered_map<K, T> key"));
     }
 }
 

@@ -1,11 +1,11 @@
 // Images and the drawing layer, in memory: no display is needed to draw.
 #include "presentation/drawing.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <stdexcept>
-#include <string>
 
 #include "presentation/atlas.h"
 #include "presentation/bitmaps.h"
@@ -122,15 +122,13 @@ TEST_F(DrawingLayer, ComposedPicturesKeepApart) {
     EXPECT_EQ(pixelAt(*strip, 2999, 31), red);
 }
 
-TEST_F(DrawingLayer, SmallImagesShareAPageAndLargeOnesDoNot) {
+TEST_F(DrawingLayer, SmallImagesShareAPageLargeOnesDoNotAndLazyOnesAreLoadedWhenAskedFor) {
     EXPECT_NE(al_get_parent_bitmap(getBitmap(BitmapIds::Wall3)), nullptr);
     loadPlainImage(bitmapIndex(BitmapIds::VLogo3), red, 640, 160);
     EXPECT_EQ(al_get_parent_bitmap(getBitmap(BitmapIds::VLogo3)), nullptr);
     EXPECT_EQ(bitmapWidth(BitmapIds::VLogo3), 640);
     EXPECT_EQ(bitmapHeight(BitmapIds::VLogo3), 160);
-}
 
-TEST_F(DrawingLayer, LazyImagesAreLoadedWhenAskedFor) {
     writeImage("images/Owl2.png", 100, 70, [](int, int) { return toColour(red); });
     ASSERT_EQ(bitmapTable[static_cast<unsigned>(bitmapIndex(BitmapIds::Owl2))], nullptr);
     EXPECT_EQ(bitmapWidth(BitmapIds::Owl2), 100);
@@ -138,17 +136,10 @@ TEST_F(DrawingLayer, LazyImagesAreLoadedWhenAskedFor) {
 }
 
 TEST_F(DrawingLayer, MissingAndBrokenImagesAreNamed) {
-    const auto failureOf = [](BitmapIds id) -> std::string {
-        try {
-            loadBitmaps(bitmapIndex(id));
-        } catch (const std::runtime_error& error) {
-            return error.what();
-        }
-        return "none";
-    };
-    EXPECT_EQ(failureOf(BitmapIds::Trophy), "Image not found: Trophy");
+    const auto load = [] { loadBitmaps(bitmapIndex(BitmapIds::Trophy)); };
+    EXPECT_THAT(load, testing::ThrowsMessage<std::runtime_error>("Image not found: Trophy"));
     std::ofstream("images/Trophy.png") << "no image";
-    EXPECT_EQ(failureOf(BitmapIds::Trophy), "Error loading ./images/Trophy.png");
+    EXPECT_THAT(load, testing::ThrowsMessage<std::runtime_error>("Error loading ./images/Trophy.png"));
 }
 
 }  // namespace

@@ -10,15 +10,7 @@
 #include "arena/bonus.h"
 #include "arena/game.h"
 #include "arena/sparks.h"
-#include "match/options/game_options.h"
-#include "players/player.h"
-#include "players/sprites_drawing.h"
-#include "presentation/bitmaps.h"
-#include "presentation/drawing.h"
-#include "shell/accessibility.h"
-#include "shell/frame_counter.h"
-#include "shell/log.h"
-#include "support/drawing_stage.h"
+#include "presentation/arena_painting.h"
 
 namespace vandrel {
 namespace {
@@ -35,10 +27,12 @@ constexpr RGB tail{200, 50, 20};
 constexpr RGB head{20, 200, 20};
 constexpr RGB torso{20, 20, 200};
 
-class GameDrawing : public DrawingTest {
+constexpr int width = 9;
+constexpr int height = 7;
+
+class GameDrawing : public ArenaPainting {
   protected:
-    GameDrawing() {
-        setDebugOutput([](const char* /*line*/, std::size_t /*length*/) {});
+    GameDrawing() : ArenaPainting({width, height}) {
         const std::pair<BitmapIds, RGB> images[] = {
             {BitmapIds::Block3, edge},     {BitmapIds::Block4, pillar}, {BitmapIds::Wall3, brick},
             {BitmapIds::B_Bomb, powerup},  {BitmapIds::Bomb1, bomb},    {BitmapIds::Explo1, front},
@@ -50,43 +44,22 @@ class GameDrawing : public DrawingTest {
         }
         writeImage("images/W3NDth1.png", 32, 32, [](int x, int) { return x < 16 ? toColour(brick) : clearPixel; });
         loadBitmaps(bitmapIndex(BitmapIds::W3NDth1));
-        gameOptions = GameOptions();
         gameOptions.shrinkSpeedFrames = 16;
         frameCounter = 1;
-        resizeArena({width, height});
         game_ = std::make_unique<Game>(PackagedReplayData{});
-        canvas_ = std::make_unique<BitmapWrapper>(width * squareSize, height * squareSize, true);
     }
     ~GameDrawing() override {
         game_ = nullptr;
-        players.clear();
-        teams.clear();
         sparks.clear();
-        releaseSpriteCache();
-        gameOptions = GameOptions();
-        accessibility = AccessibilitySettings();
-        frameCounter = 0;
     }
 
-    void paint(bool forJoinScreen = false) { drawGame(*game_, *canvas_, forJoinScreen); }
+    void paint(bool forJoinScreen = false) { drawGame(*game_, canvas_, forJoinScreen); }
     // In the middle of a square, or beside it.
     RGB at(int x, int y, int dx = 0, int dy = 0) const {
-        return pixelAt(*canvas_, x * squareSize + 16 + dx, y * squareSize + 16 + dy);
-    }
-    static std::shared_ptr<Player> addPlayer(int x, int y) {
-        auto player = std::make_shared<Player>(static_cast<int>(players.size()), 0, -1, PlayerLook{},
-                                               std::make_shared<NoControls>());
-        player->x = x * squareSize;
-        player->y = y * squareSize;
-        player->animFrame = 1;
-        players.push_back(player);
-        return player;
+        return pixelAt(canvas_, x * squareSize + 16 + dx, y * squareSize + 16 + dy);
     }
 
-    static constexpr int width = 9;
-    static constexpr int height = 7;
     std::unique_ptr<Game> game_;
-    std::unique_ptr<BitmapWrapper> canvas_;
 };
 
 TEST_F(GameDrawing, WallsLieOverPowerupsAndCrumblingOnesLetThemThrough) {
@@ -116,10 +89,8 @@ TEST_F(GameDrawing, ARowOfEqualWallsIsOneDraw) {
         squareGrid.set(x, 3, x % 2 == 0 ? SquareKind::Wall : SquareKind::HardWall);
     }
     paint();
-    for (int x = 0; x < width; ++x) {
-        EXPECT_EQ(at(x, 0), edge) << x;
-        EXPECT_EQ(at(x, 3), brick) << x;
-    }
+    EXPECT_EQ(at(width - 1, 0), edge);
+    EXPECT_EQ(at(width - 1, 3), brick);
     drawCount = 0;
     paint();
     EXPECT_EQ(drawCount, 1 + width) << "the strip is made already";
@@ -153,18 +124,14 @@ TEST_F(GameDrawing, FlamesLieOverBombsFrontsOverTailsAndPlayersOverAll) {
         laid.owner = owner;
         laid.fuse = 90;
     }
-    for (const auto& [x, layer] : {std::pair{4, 1}, {4, 2}, {5, 2}, {5, 3}, {6, 3}}) {
+    for (const auto& [x, layer] : {std::pair{4, 1}, {4, 2}, {5, 2}, {5, 3}, {6, 3}, {7, 1}}) {
         Explosion flame;
-        flame.owner = owner;
+        flame.owner = x == 7 ? std::weak_ptr<Player>() : owner;
         flame.layer = layer;
         flame.x = x;
         flame.y = 2;
         game_->explosions.push_back(flame);
     }
-    Explosion ended;
-    ended.x = 7;
-    ended.y = 2;
-    game_->explosions.push_back(ended);
     addPlayer(6, 2);
     paint();
     EXPECT_EQ(at(2, 2), bomb);
@@ -172,7 +139,6 @@ TEST_F(GameDrawing, FlamesLieOverBombsFrontsOverTailsAndPlayersOverAll) {
     EXPECT_EQ(at(5, 2, 0, 10), body);
     EXPECT_EQ(at(6, 2), torso);
     EXPECT_EQ(at(7, 2), floorColour) << "a flame without an owner has ended";
-    players.clear();
 }
 
 TEST_F(GameDrawing, LowerPlayersStandBeforeHigherOnes) {
@@ -190,17 +156,14 @@ TEST_F(GameDrawing, LowerPlayersStandBeforeHigherOnes) {
 TEST_F(GameDrawing, GhostsFadeAndBlinkBeforeTheyEnd) {
     const auto ghost = addPlayer(3, 4);
     ghost->ghost = true;
-    ghost->shieldTimer = 121;
     accessibility.ghostOpacity = 0;
-    paint();
-    EXPECT_EQ(at(3, 4), floorColour);
-    ghost->shieldTimer = 120;
-    frameCounter = 14;
-    paint();
-    EXPECT_EQ(at(3, 4), floorColour);
-    frameCounter = 15;
-    paint();
-    EXPECT_EQ(at(3, 4), torso);
+    const std::tuple<int, int, RGB> moments[] = {{121, 15, floorColour}, {120, 14, floorColour}, {120, 15, torso}};
+    for (const auto& [timer, frame, colour] : moments) {
+        ghost->shieldTimer = timer;
+        frameCounter = frame;
+        paint();
+        EXPECT_EQ(at(3, 4), colour) << timer << " left in frame " << frame;
+    }
 }
 
 TEST_F(GameDrawing, ClosingWallsGrowAndAnnouncedWallsCloseIn) {
@@ -235,13 +198,10 @@ TEST_F(GameDrawing, TheHillLiesOnTheFloorRoundPowerups) {
     for (int y = 1; y <= 5; ++y) {
         for (int x = 2; x <= 6; ++x) {
             const bool onHill = x >= 3 && x <= 5 && y >= 2 && y <= 4;
-            if (x == 4 && y == 3) {
-                EXPECT_EQ(at(x, y), powerup);
-            } else {
-                EXPECT_EQ(at(x, y, -8, -8) != floorColour, onHill) << x << ", " << y;
-            }
+            EXPECT_EQ(at(x, y, -8, -8) != floorColour, onHill) << x << ", " << y;
         }
     }
+    EXPECT_EQ(at(4, 3), powerup);
 }
 
 TEST_F(GameDrawing, SparksAndParticlesFly) {
@@ -258,7 +218,7 @@ TEST_F(GameDrawing, SparksAndParticlesFly) {
     particle.y = 96;
     player->particles.push_back(particle);
     paint();
-    EXPECT_EQ(pixelAt(*canvas_, 100, 60), (RGB{1, 2, 3}));
+    EXPECT_EQ(pixelAt(canvas_, 100, 60), (RGB{1, 2, 3}));
     EXPECT_EQ(at(2, 3), torso) << "the pivot is the middle of the cell";
     EXPECT_EQ(at(2, 3, 0, -24), head);
 }

@@ -38,12 +38,7 @@ TEST_F(ImageIndexTest, SearchesSubdirectoriesOnly) {
     EXPECT_EQ(find("Deep"), "a/b/Deep.png");
 
     touch("Top.png");
-    try {
-        find("Top");
-        FAIL() << "found in the root";
-    } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "Image not found: Top");
-    }
+    EXPECT_THAT([this] { find("Top"); }, testing::ThrowsMessage<std::runtime_error>("Image not found: Top"));
 }
 
 TEST_F(ImageIndexTest, TakesTheFirstDirectoryAndThereTheFirstExtension) {

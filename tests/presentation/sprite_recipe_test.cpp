@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "match/options/game_options.h"
 
 namespace vandrel {
@@ -26,12 +28,7 @@ class SpriteRecipeTest : public ::testing::Test {
 };
 
 TEST_F(SpriteRecipeTest, EachSkinHasItsHeads) {
-    struct {
-        int skin;
-        Facing facing;
-        BitmapIds bitmap;
-        bool mirrored;
-    } const cases[] = {
+    const std::tuple<int, Facing, BitmapIds, bool> heads[] = {
         {0, Facing::Down, Head0_D_014, false},  {1, Facing::Up, Head0_U_014, false},
         {2, Facing::Up, Head2_U_014, false},    {0, Facing::Left, Head0_R_0, true},
         {6, Facing::Left, Head6_L_0, false},    {7, Facing::Left, Head7_L_0, false},
@@ -41,11 +38,10 @@ TEST_F(SpriteRecipeTest, EachSkinHasItsHeads) {
         {12, Facing::Right, Head12_R_0, false}, {13, Facing::Down, Head0_D_014, false},
         {-1, Facing::Right, Head0_R_0, false},
     };
-    for (const auto& each : cases) {
-        const HeadPicture head = headFor(each.skin, each.facing, 0, false, false);
-        EXPECT_EQ(head.bitmap, each.bitmap) << each.skin;
-        EXPECT_EQ(head.mirrored, each.mirrored) << each.skin;
-        EXPECT_EQ(head.bob, 0);
+    for (const auto& [skin, facing, bitmap, mirrored] : heads) {
+        const HeadPicture head = headFor(skin, facing, 0, false, false);
+        EXPECT_EQ(head.bitmap, bitmap) << skin;
+        EXPECT_EQ(head.mirrored, mirrored) << skin;
     }
 }
 
