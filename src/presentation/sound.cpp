@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -19,6 +20,7 @@
 
 #include "base/checked.h"
 #include "base/numeric.h"
+#include "presentation/limiter.h"
 #include "shell/log.h"
 
 namespace vandrel {
@@ -39,6 +41,7 @@ constexpr std::chrono::milliseconds fadePeriod{2};
 
 ALLEGRO_VOICE* voice = nullptr;
 ALLEGRO_MIXER* mainMixer = nullptr;
+std::atomic<float> mixGain = 1;  // of `holdBack`; the audio thread's
 std::map<AudioType, int> volumes;
 std::array<ALLEGRO_SAMPLE*, sampleNames.size()> samples{};
 
@@ -110,10 +113,18 @@ ALLEGRO_MIXER* makeMixer() {
     return mixer;
 }
 
+// The library calls it on the audio thread with so many pairs of the main mixer's samples.
+void holdMixBack(void* samplePairs, unsigned pairs, void* /*data*/) {
+    const std::span<float> stereo(static_cast<float*>(samplePairs), std::size_t{2} * pairs);
+    mixGain.store(holdBack(stereo, mixGain.load(std::memory_order_relaxed)), std::memory_order_relaxed);
+}
+
 void makeMixers() {
     voice = al_create_voice(sampleRate, ALLEGRO_AUDIO_DEPTH_INT16, ALLEGRO_CHANNEL_CONF_2);
     require(voice != nullptr, "al_create_voice failed");
     mainMixer = makeMixer();
+    require(al_set_mixer_postprocess_callback(mainMixer, holdMixBack, nullptr),
+            "al_set_mixer_postprocess_callback failed");
     require(al_attach_mixer_to_voice(mainMixer, voice), "al_attach_mixer_to_voice failed");
     mixers[AudioType::Effects] = makeMixer();
     mixers[AudioType::Music] = makeMixer();
