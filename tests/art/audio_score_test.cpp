@@ -1,8 +1,9 @@
 // The notation of the tunes: what musicians write, what it means, and what they are told when it is wrong.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <string>
+#include <utility>
 
 #include "audio/tunes/harmony.h"
 #include "audio/tunes/render.h"
@@ -32,11 +33,9 @@ std::vector<int> pitchesOf(const ScoreVoice& voice) {
 }
 
 TEST(Harmony, NotesAndChordsAreReadAsMusiciansWriteThem) {
-    EXPECT_EQ(pitchNamed("a4"), 69);
-    EXPECT_EQ(pitchNamed("c4"), 60);
-    EXPECT_EQ(pitchNamed("bb3"), 58);
-    EXPECT_EQ(pitchNamed("b3"), 59);
-    EXPECT_EQ(pitchNamed("f#5"), 78);
+    for (const auto& [name, pitch] : {std::pair{"a4", 69}, {"c4", 60}, {"bb3", 58}, {"b3", 59}, {"f#5", 78}}) {
+        EXPECT_EQ(pitchNamed(name), pitch) << name;
+    }
     for (const char* wrong : {"", "h4", "c", "c9", "C4", "c##4", "c4x"}) {
         EXPECT_EQ(pitchNamed(wrong), std::nullopt) << wrong;
     }
@@ -123,12 +122,8 @@ TEST(ScoreNotation, SwingMovesTheSecondNoteOfAPairOnly) {
 }
 
 TEST(ScoreNotation, FaultsAreNamedWithTheirLine) {
-    struct Case {
-        std::string text;
-        std::string says;
-    };
     const std::string part = head + "part A 2\n";  // the next line is the seventh
-    const Case cases[] = {
+    const std::pair<std::string, std::string> faults[] = {
         {head, "line 5: the score has no form"},
         {head + "form A\n", "line 6: there is no part \"A\""},
         {"tempo fast\n", "line 1: \"tempo\" needs a number from 30 to 300"},
@@ -157,13 +152,9 @@ TEST(ScoreNotation, FaultsAreNamedWithTheirLine) {
         {part + "chords | Hm |\nlead | c5 |\nform A\n", "line 7: \"Hm\" is not a chord"},
         {part + "kick | X..q |\nform A\n", "line 7: \"q\" is not a drum step"},
     };
-    for (const Case& wrong : cases) {
-        try {
-            parseScore(wrong.text);
-            ADD_FAILURE() << "accepted:\n" << wrong.text;
-        } catch (const ScoreError& error) {
-            EXPECT_EQ(std::string(error.what()), wrong.says) << wrong.text;
-        }
+    for (const auto& fault : faults) {
+        EXPECT_THAT([&fault] { parseScore(fault.first); }, testing::ThrowsMessage<ScoreError>(fault.second))
+            << fault.first;
     }
     EXPECT_THROW(readScore("no/such/file.score"), std::runtime_error);
 }

@@ -4,10 +4,12 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <numeric>
 #include <set>
 #include <string>
+#include <tuple>
+#include <utility>
 
+#include "art/signal_measures.h"
 #include "audio/sounds/sound.h"
 #include "audio/synth/filters.h"
 #include "audio/synth/wav_file.h"
@@ -17,13 +19,8 @@ namespace {
 
 const std::filesystem::path soundFolder = std::filesystem::path(VANDREL_SOURCE_DIR) / "game" / "newSound";
 
-struct Expected {
-    const char* name;
-    double seconds;
-    double peak;  // decibels
-};
-
-constexpr Expected expectedSounds[] = {
+// With their seconds, and the decibels of their peak.
+constexpr std::tuple<const char*, double, double> expectedSounds[] = {
     {"Beat2", 1.769, -3.0},    {"Blart", 0.35, -3.0},   {"Cash2", 0.18, -3.0},     {"CrapDing", 0.6, -3.0},
     {"Explosion1", 0.9, -3.0}, {"Fire", 0.6, -3.0},     {"Flamer", 0.7, -6.0},     {"FX012", 0.4, -3.0},
     {"Gong2", 2.2, -3.0},      {"HitBass", 0.35, -3.0}, {"Pickup_Anh", 0.9, -6.0}, {"Plugin", 0.35, -3.0},
@@ -33,11 +30,6 @@ constexpr Expected expectedSounds[] = {
 
 Signal soundNamed(const std::string& name) {
     return readMonoWav(soundFolder / (name + ".wav"));
-}
-
-double rms(const Signal& signal) {
-    return std::sqrt(std::inner_product(signal.begin(), signal.end(), signal.begin(), 0.0) /
-                     static_cast<double>(signal.size()));
 }
 
 double inDecibels(double factor) {
@@ -56,29 +48,28 @@ Signal partOf(const Signal& sound, double from, double to) {
 }
 
 TEST(Sounds, HaveTheirLengthAndPeakStartAtOnceAndEndInSilence) {
-    for (const Expected& expected : expectedSounds) {
-        SCOPED_TRACE(expected.name);
-        const Signal sound = soundNamed(expected.name);
-        ASSERT_EQ(sound.size(), framesIn(expected.seconds));
+    for (const auto& [name, seconds, decibels] : expectedSounds) {
+        SCOPED_TRACE(name);
+        const Signal sound = soundNamed(name);
+        ASSERT_EQ(sound.size(), framesIn(seconds));
         const double peak = peakOf(sound);
-        EXPECT_NEAR(inDecibels(peak), expected.peak, 0.01);
+        EXPECT_NEAR(inDecibels(peak), decibels, 0.01);
 
         // Within 2 ms something is heard, and it does not begin with a step.
         EXPECT_GT(peakOf(partOf(sound, 0.0, 0.002)), 0.05 * peak);
         EXPECT_LT(std::abs(sound.front()), 0.001);
 
-        EXPECT_LT(inDecibels(peakOf(partOf(sound, expected.seconds - 0.005, expected.seconds))), -50.0);
+        EXPECT_LT(inDecibels(peakOf(partOf(sound, seconds - 0.005, seconds))), -50.0);
         EXPECT_LT(std::abs(sound.back()), 0.0005);
 
-        const double mean = std::accumulate(sound.begin(), sound.end(), 0.0) / static_cast<double>(sound.size());
-        EXPECT_LT(std::abs(mean), 0.0002);
+        EXPECT_LT(std::abs(meanOf(sound)), 0.0002);
     }
 }
 
 TEST(Sounds, TheFolderHoldsTheEighteenAndTheRecipesMakeThemTheSameAgain) {
     std::set<std::string> wanted;
-    for (const Expected& expected : expectedSounds) {
-        wanted.insert(std::string(expected.name) + ".wav");
+    for (const auto& expected : expectedSounds) {
+        wanted.insert(std::string(std::get<0>(expected)) + ".wav");
     }
     std::set<std::string> found;
     for (const auto& entry : std::filesystem::directory_iterator(soundFolder)) {

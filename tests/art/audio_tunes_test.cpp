@@ -7,7 +7,9 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <utility>
 
+#include "art/signal_measures.h"
 #include "audio/synth/oscillators.h"
 #include "audio/tunes/loudness.h"
 #include "audio/tunes/ogg_file.h"
@@ -18,14 +20,6 @@ namespace vandrel {
 namespace {
 
 const std::filesystem::path source = VANDREL_SOURCE_DIR;
-
-double rms(const Signal& signal, std::size_t from, std::size_t count) {
-    double sum = 0.0;
-    for (std::size_t i = from; i < from + count; ++i) {
-        sum += signal[i % signal.size()] * signal[i % signal.size()];
-    }
-    return std::sqrt(sum / static_cast<double>(count));
-}
 
 double steepest(const Signal& signal, std::size_t from, std::size_t count) {
     double step = 0.0;
@@ -54,29 +48,23 @@ TEST(Loudness, AgreesWithTheBroadcastersReferenceTone) {
 }
 
 TEST(Tunes, HaveTheirExactLengthLoudnessAndPeak) {
-    struct Case {
-        const char* name;
-        std::size_t frames;
-    };
-    for (const Case& tune : {Case{"Zoo", 3024000},
-                             {"Breakdown", 3628800},
-                             {"If Not Now When", 4032000},
-                             {"Who Likes To Party", 2822400}}) {
-        SCOPED_TRACE(tune.name);
-        const StereoSignal sound = readOgg(source / "game" / "music" / (std::string(tune.name) + ".ogg"));
-        ASSERT_EQ(sound.left.size(), tune.frames);
+    for (const auto& [name, frames] : {std::pair{"Zoo", 3024000U},
+                                       {"Breakdown", 3628800U},
+                                       {"If Not Now When", 4032000U},
+                                       {"Who Likes To Party", 2822400U}}) {
+        SCOPED_TRACE(name);
+        const StereoSignal sound = readOgg(source / "game" / "music" / (std::string(name) + ".ogg"));
+        ASSERT_EQ(sound.left.size(), frames);
         EXPECT_NEAR(integratedLoudness(sound), -20.0, 0.5);
         EXPECT_LT(std::max(peakOf(sound.left), peakOf(sound.right)), gainOf(-1.0));
 
         // It is stereo: the sides differ, by less than they have in common.
-        double apart = 0.0;
-        double together = 0.0;
-        for (std::size_t i = 0; i < sound.left.size(); ++i) {
-            apart += std::pow(sound.left[i] - sound.right[i], 2.0);
-            together += std::pow(sound.left[i] + sound.right[i], 2.0);
-        }
-        EXPECT_GT(apart, 0.01 * together);
-        EXPECT_LT(apart, together);
+        Signal apart = sound.left;
+        add(apart, sound.right, -1.0);
+        Signal together = sound.left;
+        add(together, sound.right);
+        EXPECT_GT(rms(apart), 0.1 * rms(together));
+        EXPECT_LT(rms(apart), rms(together));
 
         // The seam: no step steeper than the music's own around it, and no fade or gap on either side of it.
         for (const Signal* side : {&sound.left, &sound.right}) {
@@ -172,11 +160,9 @@ TEST(Tunes, TheSameScoreGivesTheSameBytesAndReadsBack) {
 
     const StereoSignal back = readOgg(folder / "one.ogg");
     ASSERT_EQ(back.left.size(), sound.left.size());
-    double error = 0.0;
-    for (std::size_t i = 0; i < back.left.size(); ++i) {
-        error += std::pow(back.left[i] - sound.left[i], 2.0);
-    }
-    EXPECT_LT(std::sqrt(error / static_cast<double>(back.left.size())), 0.2 * rms(sound.left, 0, sound.left.size()));
+    Signal error = back.left;
+    add(error, sound.left, -1.0);
+    EXPECT_LT(rms(error), 0.2 * rms(sound.left));
 
     EXPECT_THROW(readOgg(folder / "none.ogg"), std::runtime_error);
     std::ofstream(folder / "text.ogg") << "not a stream at all";

@@ -5,12 +5,13 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <map>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "art/each_pixel.h"
 #include "painter/png_file.h"
 #include "presentation/bitmap_ids.h"
 
@@ -49,18 +50,6 @@ const std::map<std::string, Sprite>& sprites() {
 
 const Canvas& sprite(const std::string& name) {
     return sprites().at(name).canvas;
-}
-
-bool startsWith(const std::string& text, const char* start) {
-    return text.rfind(start, 0) == 0;
-}
-
-void forEachPixel(const Canvas& canvas, const std::function<void(int x, int y, Colour colour)>& visit) {
-    for (int y = 0; y < canvas.height(); ++y) {
-        for (int x = 0; x < canvas.width(); ++x) {
-            visit(x, y, canvas.at(x, y));
-        }
-    }
 }
 
 // The columns of the visible pixels in a row, as "first-last", with an asterisk when there is a gap between,
@@ -123,9 +112,9 @@ TEST(Sprites, HaveTheirSizesPlainAlphaAndNoMagenta) {
 
 TEST(Sprites, HoldTheSpecialColoursWhereTheyBelongAndNowhereElse) {
     for (const auto& [name, entry] : sprites()) {
-        const bool black = startsWith(name, "Bomb") || startsWith(name, "R_");
-        const bool flag = startsWith(name, "Flag");
-        const bool player = startsWith(name, "Head") || startsWith(name, "Body");
+        const bool black = name.starts_with("Bomb") || name.starts_with("R_");
+        const bool flag = name.starts_with("Flag");
+        const bool player = name.starts_with("Head") || name.starts_with("Body");
         EXPECT_EQ(entry.canvas.count(palette::black) > 0, black) << name;
         EXPECT_EQ(entry.canvas.count(palette::flagRed) > 0, flag) << name;
         std::size_t lit = 0, shaded = 0;
@@ -143,7 +132,7 @@ TEST(Sprites, HoldTheSpecialColoursWhereTheyBelongAndNowhereElse) {
             EXPECT_GT(lit, 20U) << name;
         }
         // Only the lit grey turns white when a shield runs out, so it must be most of the figure.
-        if (startsWith(name, "Body")) {
+        if (name.starts_with("Body")) {
             EXPECT_GE(lit * 3, (lit + shaded) * 2) << name << ": " << lit << " lit, " << shaded << " shaded";
         }
     }
@@ -151,7 +140,7 @@ TEST(Sprites, HoldTheSpecialColoursWhereTheyBelongAndNowhereElse) {
 
 TEST(Heads, LeaveRoomForTheirOutlineAndStandOnTheNeck) {
     for (const auto& [name, entry] : sprites()) {
-        if (!startsWith(name, "Head")) {
+        if (!name.starts_with("Head")) {
             continue;
         }
         const Canvas& head = entry.canvas;
@@ -167,7 +156,7 @@ TEST(Heads, LeaveRoomForTheirOutlineAndStandOnTheNeck) {
 }
 
 TEST(Heads, MoveAPixelAtMostAndBlink) {
-    for (const int file : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}) {
+    for (int file = 0; file < 13; ++file) {
         const std::string name = "Head" + std::to_string(file) + "_D_";
         const Canvas& still = sprite(name + "014");
         EXPECT_NE(still, sprite(name + "23")) << name;
@@ -230,12 +219,7 @@ TEST(Bodies, JoinTheHeadAndStandOnTheGround) {
 
 TEST(Bodies, HoldAFistWhereAFlagIsCarried) {
     const auto expectFist = [](const std::string& name, int handX, int handY, int bob) {
-        for (int y = -1; y <= 1; ++y) {
-            for (int x = -1; x <= 1; ++x) {
-                EXPECT_EQ(sprite(name).at(handX + x, handY - bob - 4 + y), palette::bone)
-                    << name << " " << x << ", " << y;
-            }
-        }
+        EXPECT_EQ(sprite(name).cropped(handX - 1, handY - bob - 5, 3, 3).count(palette::bone), 9U) << name;
     };
     for (std::size_t frame = 0; frame < walk.size(); ++frame) {
         const WalkFrame& step = walk[frame];
@@ -256,26 +240,25 @@ TEST(Bodies, CrawlWithTheShoulderAgainstTheHead) {
 }
 
 TEST(Arena, BlockingSquaresAreFullAndBreakingOnesLoseTheirShare) {
-    struct Case {
-        const char* name;
-        int least, most;  // visible pixels, in hundredths of the square
+    // The fewest and the most visible pixels, in hundredths of the square.
+    const std::tuple<const char*, int, int> shares[] = {
+        {"Block1", 100, 100},
+        {"Block2", 100, 100},
+        {"Block3", 100, 100},
+        {"Block4", 100, 100},
+        {"Wall3", 100, 100},
+        {"Wall3CrumbleNew", 100, 100},
+        {"Wall3CrumbleNew2", 100, 100},
+        {"W3NDth1", 50, 80},
+        {"W3NDth2", 15, 40},
+        {"Wall3CrumbleNewDeath", 83, 87},
+        {"Wall3CrumbleNewDeath2", 58, 62},
+        {"Wall3CrumbleNewDeath3", 33, 37},
+        {"Wall3CrumbleNewDeath4", 10, 14},
     };
-    const Case cases[] = {{"Block1", 100, 100},
-                          {"Block2", 100, 100},
-                          {"Block3", 100, 100},
-                          {"Block4", 100, 100},
-                          {"Wall3", 100, 100},
-                          {"Wall3CrumbleNew", 100, 100},
-                          {"Wall3CrumbleNew2", 100, 100},
-                          {"W3NDth1", 50, 80},
-                          {"W3NDth2", 15, 40},
-                          {"Wall3CrumbleNewDeath", 83, 87},
-                          {"Wall3CrumbleNewDeath2", 58, 62},
-                          {"Wall3CrumbleNewDeath3", 33, 37},
-                          {"Wall3CrumbleNewDeath4", 10, 14}};
-    for (const Case& test : cases) {
-        const auto share = static_cast<int>(sprite(test.name).countVisible() * 100 / 1024);
-        EXPECT_TRUE(share >= test.least && share <= test.most) << test.name << ": " << share;
+    for (const auto& [name, least, most] : shares) {
+        const auto share = static_cast<int>(sprite(name).countVisible() * 100 / 1024);
+        EXPECT_TRUE(share >= least && share <= most) << name << ": " << share;
     }
     EXPECT_NE(sprite("Wall3"), sprite("Wall3CrumbleNew"));
     EXPECT_NE(sprite("Wall3CrumbleNew"), sprite("Wall3CrumbleNew2"));

@@ -1,12 +1,17 @@
 // The painter's promises: what a shape covers, where the light falls, where the outline goes, and that a file is the
 // picture.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <tuple>
+#include <vector>
 
+#include "art/each_pixel.h"
 #include "painter/letters.h"
 #include "painter/noise.h"
 #include "painter/pixel_map.h"
@@ -33,6 +38,21 @@ class ScratchFile {
     std::filesystem::path path_;
 };
 
+const Legend legend{{'r', red}, {'b', blue}};
+
+Canvas canvasOf(const PixelRows& rows) {
+    return canvasFromMap(legend, rows);
+}
+
+// The canvas as such rows; a question mark is a colour that the legend has not.
+std::vector<std::string> rowsOf(const Canvas& canvas) {
+    std::vector<std::string> rows(static_cast<std::size_t>(canvas.height()));
+    forEachPixel(canvas, [&rows](int /*x*/, int y, Colour colour) {
+        rows[static_cast<std::size_t>(y)] += colour == clear ? '.' : colour == red ? 'r' : colour == blue ? 'b' : '?';
+    });
+    return rows;
+}
+
 TEST(Canvas, IsTransparentOutsideAndIgnoresWritesThere) {
     Canvas canvas(3, 2, red);
     for (const auto& [x, y] : {std::pair{-1, 0}, {3, 0}, {0, -1}, {0, 2}}) {
@@ -43,72 +63,47 @@ TEST(Canvas, IsTransparentOutsideAndIgnoresWritesThere) {
     EXPECT_THROW(Canvas(0, 4), std::invalid_argument);
 }
 
-TEST(Canvas, MirrorsFlipsTurnsAndShifts) {
-    Canvas canvas(3, 2);
-    canvas.set(0, 0, red);
-    canvas.set(2, 1, blue);
-    EXPECT_EQ(canvas.mirrored().at(2, 0), red);
-    EXPECT_EQ(canvas.flipped().at(0, 1), red);
-    const Canvas turned = canvas.turned();
-    EXPECT_EQ(turned.width(), 2);
-    EXPECT_EQ(turned.height(), 3);
-    EXPECT_EQ(turned.at(1, 0), red) << "the top left corner goes to the top right";
-    EXPECT_EQ(turned.at(0, 2), blue);
-    EXPECT_EQ(turned.turned().turned().turned(), canvas);
-    const Canvas shifted = canvas.shifted(1, 1);
-    EXPECT_EQ(shifted.at(1, 1), red);
-    EXPECT_EQ(shifted.countVisible(), 1U) << "what leaves the canvas is lost";
+TEST(Canvas, IsTurnedResizedOutlinedAndDrawnOver) {
+    const Canvas corners = canvasOf({"r..", "..b"});
+    const auto changed = [](Canvas canvas, const auto& change) {
+        change(canvas);
+        return canvas;
+    };
+    const Canvas dot = canvasOf({"...", ".r.", "..."});
+    const Canvas stamp(1, 1, blue);
+    const std::tuple<const char*, Canvas, std::vector<std::string>> cases[] = {
+        {"mirrored", corners.mirrored(), {"..r", "b.."}},
+        {"flipped", corners.flipped(), {"..b", "r.."}},
+        {"turned: top left goes to top right", corners.turned(), {".r", "..", "b."}},
+        {"turned all round", corners.turned().turned().turned().turned(), {"r..", "..b"}},
+        {"shifted: what leaves is lost", corners.shifted(1, 1), {"...", ".r."}},
+        {"scaled", canvasOf({"r."}).scaled(2), {"rr..", "rr.."}},
+        {"reduced", canvasOf({"rr..", "rr.."}).reduced(2, 1), {"r."}},
+        {"outlined, without corners", changed(dot, [](Canvas& c) { c.outline(blue); }), {".b.", "brb", ".b."}},
+        {"outlined, but for a row",
+         changed(dot, [](Canvas& c) { c.outlineWhere(blue, [](int, int y) { return y != 2; }); }),
+         {".b.", "brb", "..."}},
+        {"drawn over", changed(canvasOf({"rr"}), [&](Canvas& c) { c.draw(stamp, 1, 0); }), {"rb"}},
+        {"erased", changed(canvasOf({"rr"}), [&](Canvas& c) { c.erase(stamp, 0, 0); }), {".r"}},
+    };
+    for (const auto& [what, canvas, rows] : cases) {
+        EXPECT_EQ(rowsOf(canvas), rows) << what;
+    }
 }
 
-TEST(Canvas, ScalesUpInWholePixelsAndAveragesDown) {
-    Canvas canvas(2, 1, red);
-    canvas.set(1, 0, clear);
-    const Canvas large = canvas.scaled(4);
-    EXPECT_EQ(large.count(red), 16U);
-    EXPECT_EQ(large.at(3, 3), red);
-    EXPECT_EQ(large.at(4, 0), clear);
-    EXPECT_EQ(large.reduced(2, 1), canvas);
-    const Colour half = large.reduced(1, 1).at(0, 0);
+TEST(Canvas, MixesColoursByTheirShare) {
+    const Colour half = canvasOf({"r."}).reduced(1, 1).at(0, 0);
     EXPECT_EQ(half.red, red.red) << "transparent pixels must not darken the rest";
     EXPECT_NEAR(half.alpha, 128, 1);
-}
-
-TEST(Canvas, OutlineTouchesOnlyTransparentNeighboursByEdge) {
-    Canvas canvas(5, 5);
-    canvas.set(2, 2, red);
-    canvas.outline(blue);
-    EXPECT_EQ(canvas.at(2, 2), red);
-    EXPECT_EQ(canvas.count(blue), 4U);
-    EXPECT_FALSE(canvas.visible(1, 1)) << "no corners, or a one-pixel line would look two pixels thick";
-
-    Canvas joined(5, 5);
-    joined.set(2, 2, red);
-    joined.outlineWhere(blue, [](int, int y) { return y != 3; });
-    EXPECT_EQ(joined.count(blue), 3U);
-    EXPECT_FALSE(joined.visible(2, 3));
-}
-
-TEST(Canvas, DrawsOverAndErases) {
-    Canvas under(2, 1, red);
-    Canvas stamp(1, 1, blue);
-    under.draw(stamp, 1, 0);
-    EXPECT_EQ(under.at(0, 0), red);
-    EXPECT_EQ(under.at(1, 0), blue);
+    Canvas under(1, 1, red);
     under.blend(0, 0, {0, 0, 0}, 0.5f);
     EXPECT_NEAR(under.at(0, 0).red, red.red / 2, 1);
     EXPECT_EQ(under.at(0, 0).alpha, 255);
-    under.erase(stamp, 0, 0);
-    EXPECT_EQ(under.at(0, 0), clear);
 }
 
 TEST(Shapes, CoverWhatTheyShould) {
-    struct Case {
-        const char* name;
-        Shape shape;
-        double area;
-        double tolerance;
-    };
-    const Case cases[] = {
+    // With the pixels covered, and how many more or less there may be.
+    const std::tuple<const char*, Shape, double, double> cases[] = {
         {"circle", circle(20, 20, 10), 314.2, 10},
         {"ellipse", ellipse(20, 20, 15, 6), 282.7, 12},
         {"rectangle", rectangle(5, 6, 20, 10), 200, 0},
@@ -125,10 +120,10 @@ TEST(Shapes, CoverWhatTheyShould) {
         {"ring", ring(circle(20, 20, 10), 2), 125.7, 10},
         {"clipped by the canvas", rectangle(-10, -10, 20, 20), 100, 0},
     };
-    for (const Case& test : cases) {
+    for (const auto& [name, shape, area, tolerance] : cases) {
         Canvas canvas(40, 40);
-        fill(canvas, test.shape, red);
-        EXPECT_NEAR(static_cast<double>(canvas.countVisible()), test.area, test.tolerance) << test.name;
+        fill(canvas, shape, red);
+        EXPECT_NEAR(static_cast<double>(canvas.countVisible()), area, tolerance) << name;
     }
     EXPECT_THROW(polygon({{0, 0}, {1, 1}}), std::invalid_argument);
 }
@@ -163,16 +158,10 @@ TEST(Shapes, DitherMixesByShareAndHardFillsKeepAlphaPlain) {
 }
 
 TEST(PixelMap, ReadsItsLegendAndRefusesUnknownLetters) {
-    const Legend legend{{'r', red}, {'b', blue}};
-    const Canvas canvas = canvasFromMap(legend, {"rb.", "..r"});
-    EXPECT_EQ(canvas.width(), 3);
-    EXPECT_EQ(canvas.at(1, 0), blue);
-    EXPECT_EQ(canvas.at(0, 1), clear);
+    EXPECT_EQ(rowsOf(canvasOf({"rb.", "..r"})), (std::vector<std::string>{"rb.", "..r"}));
     Canvas mirrored(3, 2, blue);
     drawMapMirrored(mirrored, 0, 0, legend, {"r_.", "..r"});
-    EXPECT_EQ(mirrored.at(2, 0), red);
-    EXPECT_EQ(mirrored.at(1, 0), clear) << "an underscore cuts a hole";
-    EXPECT_EQ(mirrored.at(0, 1), red);
+    EXPECT_EQ(rowsOf(mirrored), (std::vector<std::string>{"b.r", "rbb"})) << "an underscore cuts a hole";
     EXPECT_THROW(canvasFromMap(legend, {"rx"}), std::invalid_argument);
 }
 
@@ -180,11 +169,9 @@ TEST(Letters, HaveTheWidthTheySay) {
     Canvas canvas(textWidth("A1_", 2) + 4, letterHeight * 2);
     writeText(canvas, 0, 0, "A1_", red, 2);
     int rightmost = 0;
-    for (int y = 0; y < canvas.height(); ++y) {
-        for (int x = 0; x < canvas.width(); ++x) {
-            rightmost = canvas.visible(x, y) ? std::max(rightmost, x) : rightmost;
-        }
-    }
+    forEachPixel(canvas, [&rightmost](int x, int /*y*/, Colour colour) {
+        rightmost = colour.alpha != 0 ? std::max(rightmost, x) : rightmost;
+    });
     EXPECT_EQ(rightmost, textWidth("A1_", 2) - 1);
     Canvas small(6, 7), capital(6, 7);
     writeText(small, 0, 0, "g", red);
@@ -216,13 +203,10 @@ TEST(Noise, IsTheSameForTheSameSeedAndStaysInRange) {
 
 TEST(PngFile, RoundTripKeepsEveryPixelAndTheBytesRepeat) {
     Canvas canvas(300, 9);
-    for (int y = 0; y < canvas.height(); ++y) {
-        for (int x = 0; x < canvas.width(); ++x) {
-            canvas.set(x, y,
-                       {static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y * 20),
-                        static_cast<std::uint8_t>(x * y), static_cast<std::uint8_t>(x % 3 == 0 ? 0 : 255 - y)});
-        }
-    }
+    forEachPixel(canvas, [&canvas](int x, int y, Colour /*colour*/) {
+        const auto byte = [](int value) { return static_cast<std::uint8_t>(value); };
+        canvas.set(x, y, {byte(x), byte(y * 20), byte(x * y), byte(x % 3 == 0 ? 0 : 255 - y)});
+    });
     const ScratchFile file("round_trip.png");
     writePng(canvas, file.path());
     EXPECT_EQ(readPng(file.path()), canvas);
@@ -234,12 +218,8 @@ TEST(PngFile, SaysWhichFileIsAtFault) {
     const ScratchFile file("broken.png");
     std::ofstream(file.path()) << "no picture";
     for (const std::filesystem::path& path : {file.path(), std::filesystem::path("/no/such/picture.png")}) {
-        try {
-            readPng(path);
-            ADD_FAILURE() << path << " was read";
-        } catch (const std::runtime_error& error) {
-            EXPECT_NE(std::string(error.what()).find(path.string()), std::string::npos) << error.what();
-        }
+        EXPECT_THAT([&path] { readPng(path); },
+                    testing::ThrowsMessage<std::runtime_error>(testing::HasSubstr(path.string())));
     }
     EXPECT_THROW(writePng(Canvas(1, 1), file.path() / "below_a_file.png"), std::exception);
 }

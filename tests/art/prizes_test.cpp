@@ -10,7 +10,9 @@
 #include <set>
 #include <string>
 #include <tuple>
+#include <utility>
 
+#include "art/each_pixel.h"
 #include "images/recolour.h"
 #include "painter/png_file.h"
 #include "presentation/bitmap_ids.h"
@@ -36,12 +38,9 @@ const std::map<std::string, Canvas>& photos() {
         std::map<std::string, Canvas> found;
         for (const fs::directory_entry& entry : fs::directory_iterator(prizesDirectory())) {
             const Canvas large = readPng(entry.path());
-            Canvas small(photoWidth, photoHeight, clear);
-            for (int y = 0; y < photoHeight; ++y) {
-                for (int x = 0; x < photoWidth; ++x) {
-                    small.set(x, y, large.at(x * photoScale, y * photoScale));
-                }
-            }
+            Canvas small(photoWidth, photoHeight);
+            forEachPixel(small,
+                         [&](int x, int y, Colour) { small.set(x, y, large.at(x * photoScale, y * photoScale)); });
             EXPECT_TRUE(large == small.scaled(photoScale)) << entry.path() << " is not made of whole enlarged pixels";
             found.insert({entry.path().stem().string(), small});
         }
@@ -57,45 +56,31 @@ int difference(Colour a, Colour b) {
 // The share of the inner pixels, in hundredths, that a viewer sees to be of another colour.
 int differingShare(const Canvas& one, const Canvas& other) {
     int differing = 0;
-    for (int y = innerTop; y < innerBottom; ++y) {
-        for (int x = innerLeft; x < innerRight; ++x) {
-            differing += difference(one.at(x, y), other.at(x, y)) > 60 ? 1 : 0;
-        }
-    }
-    return differing * 100 / ((innerRight - innerLeft) * (innerBottom - innerTop));
+    const Canvas scene = one.cropped(innerLeft, innerTop, innerRight - innerLeft, innerBottom - innerTop);
+    forEachPixel(scene, [&](int x, int y, Colour colour) {
+        differing += difference(colour, other.at(innerLeft + x, innerTop + y)) > 60 ? 1 : 0;
+    });
+    return differing * 100 / (scene.width() * scene.height());
 }
 
 std::size_t coloursWithin(const Canvas& photo, int left, int top, int right, int bottom) {
     std::set<std::tuple<int, int, int>> colours;
-    for (int y = top; y < bottom; ++y) {
-        for (int x = left; x < right; ++x) {
-            const Colour colour = photo.at(x, y);
-            colours.insert({colour.red, colour.green, colour.blue});
-        }
-    }
+    forEachPixel(photo.cropped(left, top, right - left, bottom - top), [&](int, int, Colour colour) {
+        colours.insert({colour.red, colour.green, colour.blue});
+    });
     return colours.size();
 }
 
 // Whether the visible pixels of the sprite stand somewhere in the picture, unchanged.
 bool shows(const Canvas& photo, const Canvas& sprite) {
-    const auto standsAt = [&](int left, int top) {
-        for (int y = 0; y < sprite.height(); ++y) {
-            for (int x = 0; x < sprite.width(); ++x) {
-                if (sprite.visible(x, y) && sprite.at(x, y) != photo.at(left + x, top + y)) {
-                    return false;
-                }
-            }
-        }
-        return true;
-    };
-    for (int top = 0; top + sprite.height() <= photo.height(); ++top) {
-        for (int left = 0; left + sprite.width() <= photo.width(); ++left) {
-            if (standsAt(left, top)) {
-                return true;
-            }
-        }
-    }
-    return false;
+    bool found = false;
+    forEachPixel(photo, [&](int left, int top, Colour) {
+        Canvas drawn = photo.cropped(left, top, sprite.width(), sprite.height());
+        const Canvas before = drawn;
+        drawn.draw(sprite);
+        found = found || drawn == before;
+    });
+    return found;
 }
 
 TEST(Prizes, AreThoseOfTheBitmapTableBothWays) {
@@ -119,15 +104,11 @@ TEST(Prizes, LeaveRoomForTheWordsAndAreOpaque) {
     constexpr int height = photoHeight * photoScale;
     static_assert((screenHeight - height) / 2 >= captionEnd && (screenHeight + height) / 2 <= promptStart);
     for (const auto& [name, photo] : photos()) {
-        EXPECT_EQ(photo.countVisible(), static_cast<std::size_t>(photoWidth * photoHeight)) << name;
-        for (int y = 0; y < photoHeight; ++y) {
-            for (int x = 0; x < photoWidth; ++x) {
-                const Colour colour = photo.at(x, y);
-                if (colour.alpha != 255 || (colour.red > 240 && colour.green < 16 && colour.blue > 240)) {
-                    ADD_FAILURE() << name << " at " << x << ", " << y;
-                }
+        forEachPixel(photo, [&, &title = name](int x, int y, Colour colour) {
+            if (colour.alpha != 255 || (colour.red > 240 && colour.green < 16 && colour.blue > 240)) {
+                ADD_FAILURE() << title << " at " << x << ", " << y;
             }
-        }
+        });
     }
 }
 
@@ -135,12 +116,10 @@ TEST(Prizes, HangInOneKindOfFrame) {
     const Canvas& pattern = photos().begin()->second;
     for (const auto& [name, photo] : photos()) {
         int foreign = 0;
-        for (int y = 0; y < photoHeight; ++y) {
-            for (int x = 0; x < photoWidth; ++x) {
-                const bool inside = x >= innerLeft && x < innerRight && y >= innerTop && y < innerBottom;
-                foreign += !inside && photo.at(x, y) != pattern.at(x, y) ? 1 : 0;
-            }
-        }
+        forEachPixel(photo, [&](int x, int y, Colour colour) {
+            const bool inside = x >= innerLeft && x < innerRight && y >= innerTop && y < innerBottom;
+            foreign += !inside && colour != pattern.at(x, y) ? 1 : 0;
+        });
         EXPECT_EQ(foreign, 0) << name;
     }
     EXPECT_GT(difference(pattern.at(0, 50), pattern.at(2, 50)), 100) << "the edge and the paper";
@@ -160,10 +139,8 @@ TEST(Prizes, HaveSomethingToLookAt) {
     for (const auto& [name, photo] : photos()) {
         // The subject stands in the middle, and no quarter is left empty.
         EXPECT_GE(coloursWithin(photo, middleX - 30, middleY - 25, middleX + 30, middleY + 25), 16U) << name;
-        for (const int left : {innerLeft, middleX}) {
-            for (const int top : {innerTop, middleY}) {
-                const int right = left == innerLeft ? middleX : innerRight;
-                const int bottom = top == innerTop ? middleY : innerBottom;
+        for (const auto& [left, right] : {std::pair{innerLeft, middleX}, {middleX, innerRight}}) {
+            for (const auto& [top, bottom] : {std::pair{innerTop, middleY}, {middleY, innerBottom}}) {
                 EXPECT_GE(coloursWithin(photo, left, top, right, bottom), 20U)
                     << name << " from " << left << ", " << top;
             }
