@@ -1,10 +1,14 @@
 #include "shell/command_line.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <functional>
 #include <stdexcept>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "match/options/game_options.h"
@@ -40,12 +44,7 @@ class CommandLineTest : public testing::Test {
 };
 
 TEST_F(CommandLineTest, SwitchesAreTakenInOrder) {
-    struct Case {
-        std::vector<const char*> arguments;
-        bool diagnostic, fastForward, autoRandomControls;
-        int advanceLimit;
-    };
-    const Case cases[] = {
+    const std::tuple<std::vector<const char*>, bool, bool, bool, int> cases[] = {
         {{}, false, false, false, 0},
         {{"/diag"}, true, false, false, 0},
         {{"/fastForward", "/autoRandomControls"}, false, true, true, 0},
@@ -55,13 +54,14 @@ TEST_F(CommandLineTest, SwitchesAreTakenInOrder) {
         {{"/advanceLimit", "-3"}, false, false, false, -3},
         {{"/advanceLimit", "5", "/advanceLimit"}, false, false, false, 5},  // the last one has no number
     };
-    for (const Case& c : cases) {
+    for (const auto& [arguments, isDiagnostic, isFast, isRandom, limit] : cases) {
+        SCOPED_TRACE(testing::PrintToString(arguments));
         clear();
-        process(c.arguments);
-        EXPECT_EQ(diagnostic, c.diagnostic);
-        EXPECT_EQ(fastForward, c.fastForward);
-        EXPECT_EQ(autoRandomControls, c.autoRandomControls);
-        EXPECT_EQ(advanceLimit, c.advanceLimit);
+        process(arguments);
+        EXPECT_EQ(diagnostic, isDiagnostic);
+        EXPECT_EQ(fastForward, isFast);
+        EXPECT_EQ(autoRandomControls, isRandom);
+        EXPECT_EQ(advanceLimit, limit);
     }
 }
 
@@ -137,26 +137,20 @@ TEST_F(GuardTest, BeforeThePlatformIsUpThereIsNoBox) {
 TEST_F(GuardTest, EveryFailureIsLoggedFlushedAndShown) {
     installAllegroHeadless();
     openLog();
-    struct Case {
-        std::function<void()> run;
-        std::string text;
-    };
+    const std::pair<std::function<void()>, std::string> failures[] = {
+        {[] { throw std::runtime_error("100% broken"); }, "An exception occurred:\n100% broken\n"},
+        {[] { throw std::out_of_range("two\nlines\n"); }, "An exception occurred:\ntwo\nlines\n\n"},
+        {[] { throw 5; }, "An exception of unknown type occurred.\n"}};
     std::string inLog;
-    for (const Case& c :
-         {Case{[] { throw std::runtime_error("100% broken"); }, "An exception occurred:\n100% broken\n"},
-          Case{[] { throw std::out_of_range("two\nlines\n"); }, "An exception occurred:\ntwo\nlines\n\n"},
-          Case{[] { throw 5; }, "An exception of unknown type occurred.\n"}}) {
+    for (const auto& [run, text] : failures) {
         boxes.shown.clear();
-        runGuarded(c.run);
-        inLog += "0: " + c.text + pleaseSend();
+        runGuarded(run);
+        inLog += "0: " + text + pleaseSend();
         EXPECT_EQ(fileText(data.path + "/vandrel/vandrel.log"), inLog);
-        ASSERT_EQ(boxes.shown.size(), 1U);
-        EXPECT_EQ(boxes.shown[0], std::pair(c.text + pleaseSend(), std::string()));
+        EXPECT_THAT(boxes.shown, testing::ElementsAre(std::pair(text + pleaseSend(), std::string())));
     }
     boxes.shown.clear();
-    bool ran = false;
-    runGuarded([&ran] { ran = true; });
-    EXPECT_TRUE(ran);
+    runGuarded([] {});
     EXPECT_TRUE(boxes.shown.empty());
     closeLog();
 }

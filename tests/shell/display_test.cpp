@@ -1,11 +1,13 @@
 #include "shell/display.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "shell/display_mode.h"
@@ -18,11 +20,7 @@ namespace vandrel::test {
 namespace {
 
 TEST(LetterboxTest, ThePictureIsAsLargeAsFitsAndInTheMiddle) {
-    struct Case {
-        int displayWidth, displayHeight, gameWidth, gameHeight;
-        ScreenRectangle expected;
-    };
-    const Case cases[] = {
+    const std::tuple<int, int, int, int, ScreenRectangle> cases[] = {
         {1920, 1080, 1920, 1080, {0, 0, 1920, 1080}},  // the same
         {3840, 2160, 1920, 1080, {0, 0, 3840, 2160}},  // the same shape
         {1280, 720, 1920, 1080, {0, 0, 1280, 720}},    // smaller
@@ -34,10 +32,10 @@ TEST(LetterboxTest, ThePictureIsAsLargeAsFitsAndInTheMiddle) {
         {1920, 1080, 3808, 2144, {1, 0, 1918, 1080}},  // and of 119 by 67
         {80, 200, 40, 30, {0, 70, 80, 60}},
     };
-    for (const Case& c : cases) {
-        const ScreenRectangle r = letterboxRectangle(c.displayWidth, c.displayHeight, c.gameWidth, c.gameHeight);
-        EXPECT_EQ(r, c.expected) << c.gameWidth << "x" << c.gameHeight << " on " << c.displayWidth << "x"
-                                 << c.displayHeight << ": " << r.x << " " << r.y << " " << r.width << " " << r.height;
+    for (const auto& [displayWidth, displayHeight, width, height, expected] : cases) {
+        const ScreenRectangle r = letterboxRectangle(displayWidth, displayHeight, width, height);
+        EXPECT_EQ(r, expected) << width << "x" << height << " on " << displayWidth << "x" << displayHeight << ": "
+                               << r.x << " " << r.y << " " << r.width << " " << r.height;
     }
 }
 
@@ -45,16 +43,8 @@ const std::vector<DisplayMode> fiveModes{
     {1920, 1080, 60}, {640, 480, 60}, {1280, 1024, 60}, {800, 600, 75}, {1280, 720, 60}};
 
 TEST(DisplayModeTest, WhatIsConfiguredWhatIsListedAndTheDesktopDecide) {
-    const CapturedLog captured;
-    struct Case {
-        const char* what;
-        DisplayChoice configured;
-        std::vector<DisplayMode> modes;
-        DisplayChoice expected;
-        bool logged;
-    };
     const DisplayChoice desktop{1920, 1080, false};
-    const Case cases[] = {
+    const std::tuple<const char*, DisplayChoice, std::vector<DisplayMode>, DisplayChoice, bool> cases[] = {
         {"listed, windowed", {800, 600, true}, fiveModes, {800, 600, true}, false},
         {"listed, fullscreen", {800, 600, false}, fiveModes, {800, 600, false}, false},
         {"the first run", {0, 0, false}, fiveModes, desktop, true},
@@ -72,15 +62,15 @@ TEST(DisplayModeTest, WhatIsConfiguredWhatIsListedAndTheDesktopDecide) {
         {"absurd", {-5, 2147483647, true}, fiveModes, {1280, 1024, true}, true},
         {"a listed mode of no size", {0, 0, true}, {{0, 0, 0}}, desktop, false},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, configured, modes, expected, logged] : cases) {
+        SCOPED_TRACE(what);
         const CapturedLog log;
-        const DisplayChoice choice = chooseDisplayMode(c.configured, c.modes, 1920, 1080);
-        EXPECT_EQ(choice, c.expected) << choice.width << "x" << choice.height << " " << choice.windowed;
+        const DisplayChoice choice = chooseDisplayMode(configured, modes, 1920, 1080);
+        EXPECT_EQ(choice, expected) << choice.width << "x" << choice.height << " " << choice.windowed;
         const std::string line =
             "Config screen resolution is invalid - trying desktop res (fullscreen) or first resolution below desktop "
             "(windowed)\n";
-        EXPECT_EQ(log.text().size() > line.size() && log.text().ends_with(line), c.logged);
+        EXPECT_EQ(log.text().size() > line.size() && log.text().ends_with(line), logged);
     }
 }
 
@@ -106,12 +96,11 @@ class GameScreenTest : public testing::Test {
 };
 
 TEST_F(GameScreenTest, ASlotIsASizeAndAClearedDisplay) {
-    const std::vector<std::pair<int, int>> sizes{{1920, 1080}, {640, 480}, {640, 640}, {640, 720}, {640, 960}};
-    for (int slot = 0; slot < 5; ++slot) {
-        const auto [width, height] = sizes[static_cast<std::size_t>(slot)];
-        setGameScreenSlot(slot);
-        EXPECT_EQ(std::pair(gameScreenWidth, gameScreenHeight), std::pair(width, height));
-        EXPECT_EQ(std::pair(screen->width(), screen->height()), std::pair(width, height));
+    int slot = 0;
+    for (const auto& size : {std::pair{1920, 1080}, {640, 480}, {640, 640}, {640, 720}, {640, 960}}) {
+        setGameScreenSlot(slot++);
+        EXPECT_EQ(std::pair(gameScreenWidth, gameScreenHeight), size);
+        EXPECT_EQ(std::pair(screen->width(), screen->height()), size);
     }
     EXPECT_EQ(colourAt(50, 20), "");
     EXPECT_THROW(setGameScreenSlot(5), std::out_of_range);
@@ -137,14 +126,10 @@ TEST_F(GameScreenTest, APresentedFrameHasBlackBorders) {
 
 // Mixed pixels keep the strokes of letters, and take their time.
 TEST_F(GameScreenTest, PixelsAreMixedOnlyWhereThePictureShrinks) {
-    struct Case {
-        int width, height;
-        bool mixed;
-    };
-    for (const Case& c : {Case{100, 40, false}, Case{20, 20, false}, Case{104, 40, true}, Case{90, 42, true}}) {
-        setGameScreenSize(c.width, c.height);
-        EXPECT_EQ((al_get_bitmap_flags(screen->bitmap) & ALLEGRO_MIN_LINEAR) != 0, c.mixed)
-            << c.width << "x" << c.height;
+    for (const auto& [width, height, mixed] :
+         {std::tuple{100, 40, false}, {20, 20, false}, {104, 40, true}, {90, 42, true}}) {
+        setGameScreenSize(width, height);
+        EXPECT_EQ((al_get_bitmap_flags(screen->bitmap) & ALLEGRO_MIN_LINEAR) != 0, mixed) << width << "x" << height;
     }
 }
 
@@ -152,30 +137,21 @@ TEST(SetVideoModeTest, WithoutADisplayServerThereIsNoDisplay) {
     installAllegroHeadless();
     ASSERT_EQ(al_get_num_video_adapters(), 0);
     frameCounter = 0;
-    struct Case {
-        int adapter;
-        bool windowed;
-        std::string expected;
-    };
-    const std::string flags = "0: Setting display flags\n";
-    const std::string create = "0: Create display: 640 480\n";
-    const std::string window = "0: Changing video mode to 640x480, windowed\n" + flags;
-    for (const Case& c :
-         {Case{-1, true, window + "0: Adapter: -1\n" + create},
-          Case{7, true, window + "0: Adapter: -1\n" + create},  // above the number of adapters
-          Case{0, true, window + "0: Adapter: 0\n" + create},   // equal to it: taken as it is
-          Case{-1, false, "0: Changing video mode to fullscreen window\n" + flags + "0: Adapter: -1\n" + create}}) {
-        SCOPED_TRACE(c.adapter);
+    const std::tuple<bool, int, int> cases[] = {{true, -1, -1},
+                                                {true, 7, -1},  // above the number of adapters
+                                                {true, 0, 0},   // equal to it: taken as it is
+                                                {false, -1, -1}};
+    for (const auto& [windowed, adapter, taken] : cases) {
+        SCOPED_TRACE(adapter);
         const CapturedLog captured;
-        try {
-            setVideoMode(640, 480, c.windowed, c.adapter);
-            FAIL();
-        } catch (const std::runtime_error& failure) {
-            EXPECT_STREQ(failure.what(), "Failed to create display");
-        }
-        EXPECT_EQ(captured.text(), c.expected);
+        const auto create = [window = windowed, number = adapter] { setVideoMode(640, 480, window, number); };
+        EXPECT_THAT(create, testing::ThrowsMessage<std::runtime_error>("Failed to create display"));
+        EXPECT_EQ(captured.text(), std::string("0: Changing video mode to ") +
+                                       (windowed ? "640x480, windowed" : "fullscreen window") +
+                                       "\n0: Setting display flags\n0: Adapter: " + std::to_string(taken) +
+                                       "\n0: Create display: 640 480\n");
         EXPECT_EQ(theDisplay, nullptr);
-        EXPECT_EQ((al_get_new_display_flags() & ALLEGRO_FULLSCREEN_WINDOW) == 0, c.windowed);
+        EXPECT_EQ((al_get_new_display_flags() & ALLEGRO_FULLSCREEN_WINDOW) == 0, windowed);
         EXPECT_TRUE(al_get_new_display_flags() & ALLEGRO_WINDOWED) << "in both cases";
     }
 }

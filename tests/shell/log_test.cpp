@@ -1,11 +1,17 @@
 #include "shell/log.h"
 
+#include <fmt/format.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
+#include <functional>
+#include <iterator>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <tuple>
+#include <utility>
 
 #include "shell/assertion.h"
 #include "shell/frame_counter.h"
@@ -31,7 +37,7 @@ class LogTest : public testing::Test {
     CapturedBoxes boxes;
 };
 
-TEST_F(LogTest, LinesCarryTheFrameAndBringTheirOwnNewline) {
+TEST_F(LogTest, LinesCarryTheFrameBringTheirOwnNewlineAndKeepTheirPerCentSigns) {
     openLog();
     logText("first\n");
     frameCounter = 1234;
@@ -40,57 +46,45 @@ TEST_F(LogTest, LinesCarryTheFrameAndBringTheirOwnNewline) {
     std::ostringstream stream;
     stream << " stream " << 5 << '\n';
     logStream(stream);
-    logTrace("trace\n");
-    flushLog();
-    const std::string expected = "0: first\n1234: 3 of seven1235:  stream 5\n1235: trace\n";
+    logTrace("%x %%\n");
+    logText("/home/100%n/%s%d\n");
+    logAndFlush("50%\n");
+    const std::string expected =
+        "0: first\n1234: 3 of seven1235:  stream 5\n1235: %x %%\n1235: /home/100%n/%s%d\n1235: 50%\n";
     EXPECT_EQ(fileText(logPath()), expected);
     EXPECT_EQ(captured.text(), expected);
     EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(LogTest, PerCentSignsStayAsTheyAre) {
-    openLog();
-    logText("/home/100%n/%s%d\n");
-    logTrace("%x %%\n");
-    logAndFlush("50%\n");
-    EXPECT_EQ(fileText(logPath()), "0: /home/100%n/%s%d\n0: %x %%\n0: 50%\n");
-}
-
 TEST_F(LogTest, LongMessagesAreCutAndStillTerminated) {
-    struct Case {
-        const char* what;
-        std::size_t messageLength;
-        int frame;
-        std::size_t lineLength;
-    };
     // A line holds 19,999 characters, its prefix included.
-    for (const Case& c : {Case{"fits", 19'996, 7, 19'999}, Case{"one too many behind the prefix", 19'997, 7, 19'999},
-                          Case{"too long for the message", 30'000, 7, 19'999},
-                          Case{"longer prefix", 19'996, 100'000, 19'999}, Case{"shorter", 19'995, 7, 19'998}}) {
-        SCOPED_TRACE(c.what);
+    const std::tuple<const char*, std::size_t, int, std::size_t> cases[] = {
+        {"shorter", 19'995, 7, 19'998},
+        {"fits", 19'996, 7, 19'999},
+        {"one too many behind the prefix", 19'997, 7, 19'999},
+        {"too long for the message", 30'000, 7, 19'999},
+        {"longer prefix", 19'996, 100'000, 19'999},
+    };
+    for (const auto& [what, messageLength, frame, lineLength] : cases) {
         const CapturedLog line;
-        frameCounter = c.frame;
-        logText(std::string(c.messageLength, 'x'));
-        const std::string prefix = std::to_string(c.frame) + ": ";
-        EXPECT_EQ(line.text(), prefix + std::string(c.lineLength - prefix.size(), 'x'));
+        frameCounter = frame;
+        logText(std::string(messageLength, 'x'));
+        const std::string prefix = std::to_string(frame) + ": ";
+        EXPECT_EQ(line.text(), prefix + std::string(lineLength - prefix.size(), 'x')) << what;
     }
 }
 
 TEST_F(LogTest, AFailedCreateIsToldInABoxAndLinesStillReachTheDebugger) {
+    std::filesystem::create_directories(logPath());
+    openLog();
     writeFile(data.path + "/file", "");
     const ScopedEnvironment blocked("XDG_DATA_HOME", data.path + "/file");
     openLog();
     logText("nobody writes this down\n");
     logAndFlush("nor this\n");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0], std::pair(std::string("Warning: couldn't create log file"), std::string()));
+    const std::pair<std::string, std::string> box("Warning: couldn't create log file", "");
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(box, box)) << "a log that is a folder, a folder that is a file";
     EXPECT_EQ(captured.text(), "0: nobody writes this down\n0: nor this\n");
-}
-
-TEST_F(LogTest, ALogThatIsADirectoryCountsAsNotCreated) {
-    std::filesystem::create_directories(logPath());
-    openLog();
-    EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
 TEST_F(LogTest, ASecondStartEmptiesTheLogAndAClosedLogTakesNothing) {
@@ -116,38 +110,23 @@ TEST_F(LogTest, AFailedAssertionIsFlushedAndThrown) {
     VANDREL_CHECK_AT(2 > 1, "2 > 1", position());
     EXPECT_EQ(asked, 0) << "the position is asked for on failure only";
 
-    std::string thrown;
-    int line = 0;
-    const auto failing = [&](auto check) {
-        try {
-            check();
-            ADD_FAILURE() << "the run went on";
-        } catch (const std::runtime_error& failure) {
-            thrown = failure.what();
-        }
+    const int line = __LINE__ + 2;  // of the first of them
+    const std::function<void()> failing[] = {
+        [] { VANDREL_CHECK(1 > 2, "c == 'A'"); },
+        [&] { VANDREL_CHECK_AT(false, "abs(xDir) < 2", position()); },
+        [] { VANDREL_CHECK_AT(false, "verifyX == x", std::optional<long long>()); },
     };
-    failing([&] {
-        line = __LINE__ + 1;
-        VANDREL_CHECK(1 > 2, "c == 'A'");
-    });
-    const std::string first = "Assertion failed: 'c == 'A'' at line " + std::to_string(line) + "\n";
-    EXPECT_EQ(thrown, first);
-    EXPECT_EQ(fileText(logPath()), "0: " + first);
-
-    failing([&] {
-        line = __LINE__ + 1;
-        VANDREL_CHECK_AT(false, "abs(xDir) < 2", position());
-    });
-    const std::string second =
-        "Assertion failed: 'abs(xDir) < 2' at line " + std::to_string(line) + "\nreplayInput pos 4711\n";
-    EXPECT_EQ(thrown, second);
-    EXPECT_EQ(fileText(logPath()), "0: " + first + "0: " + second);
-
-    failing([&] {
-        line = __LINE__ + 1;
-        VANDREL_CHECK_AT(false, "verifyX == x", std::optional<long long>());
-    });
-    EXPECT_EQ(thrown, "Assertion failed: 'verifyX == x' at line " + std::to_string(line) + "\n");
+    const std::string says[] = {
+        fmt::format("Assertion failed: 'c == 'A'' at line {}\n", line),
+        fmt::format("Assertion failed: 'abs(xDir) < 2' at line {}\nreplayInput pos 4711\n", line + 1),
+        fmt::format("Assertion failed: 'verifyX == x' at line {}\n", line + 2),
+    };
+    std::string inLog;
+    for (std::size_t i = 0; i < std::size(says); ++i) {
+        EXPECT_THAT(failing[i], testing::ThrowsMessage<std::runtime_error>(says[i]));
+        inLog += "0: " + says[i];
+        EXPECT_EQ(fileText(logPath()), inLog);
+    }
 }
 
 }  // namespace

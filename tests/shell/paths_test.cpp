@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <tuple>
 
 #include "shell/shell_test_tools.h"
 
@@ -15,35 +16,26 @@ namespace {
 
 TEST(PathsTest, TheEnvironmentSaysWhereTheDataLies) {
     const ScratchDirectory root;
-    struct Case {
-        const char* what;
-        std::optional<std::string> xdgDataHome;
-        std::optional<std::string> home;
-        std::string expected;
-    };
     const std::string home = root.path + "/home of X";
-    const Case cases[] = {
-        {"the data home counts first", root.path + "/data", home, root.path + "/data/vandrel"},
-        {"no data home", std::nullopt, home, home + "/.local/share/vandrel"},
-        {"an empty data home", "", home, home + "/.local/share/vandrel"},
-        {"a relative data home", "data", home, home + "/.local/share/vandrel"},
+    const std::tuple<const char*, std::optional<std::string>, std::string> cases[] = {
+        {"the data home counts first", root.path + "/data", root.path + "/data/vandrel"},
+        {"no data home", std::nullopt, home + "/.local/share/vandrel"},
+        {"an empty data home", "", home + "/.local/share/vandrel"},
+        {"a relative data home", "data", home + "/.local/share/vandrel"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        const ScopedEnvironment xdg("XDG_DATA_HOME", c.xdgDataHome);
-        const ScopedEnvironment homeVariable("HOME", c.home);
-        EXPECT_EQ(appDataPath(), c.expected);
-        EXPECT_EQ(appDataDir(), c.expected);
-        EXPECT_EQ(replaysDir(), c.expected + "/replays");
-        EXPECT_TRUE(std::filesystem::is_directory(c.expected + "/replays"));
-        EXPECT_EQ(appDataDir(), c.expected) << "it may be there already";
+    for (const auto& [what, xdgDataHome, expected] : cases) {
+        SCOPED_TRACE(what);
+        const ScopedEnvironment xdg("XDG_DATA_HOME", xdgDataHome);
+        const ScopedEnvironment homeVariable("HOME", home);
+        EXPECT_EQ(appDataPath(), expected);
+        EXPECT_EQ(appDataDir(), expected);
+        EXPECT_EQ(replaysDir(), expected + "/replays");
+        EXPECT_TRUE(std::filesystem::is_directory(expected + "/replays"));
+        EXPECT_EQ(appDataDir(), expected) << "it may be there already";
     }
-}
-
-TEST(PathsTest, WithoutAHomeTheUserDatabaseIsAsked) {
     const ScopedEnvironment xdg("XDG_DATA_HOME", std::nullopt);
-    const ScopedEnvironment home("HOME", std::nullopt);
-    EXPECT_EQ(appDataPath(), std::string(getpwuid(getuid())->pw_dir) + "/.local/share/vandrel");
+    const ScopedEnvironment noHome("HOME", std::nullopt);
+    EXPECT_EQ(appDataPath(), std::string(getpwuid(getuid())->pw_dir) + "/.local/share/vandrel") << "the user database";
 }
 
 TEST(PathsTest, NewFoldersAreForTheUserAlone) {

@@ -1,10 +1,12 @@
 #include "shell/timing.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
-#include <string>
 #include <thread>
+#include <tuple>
+#include <utility>
 
 #include "match/options/game_options.h"
 #include "shell/display.h"
@@ -16,15 +18,11 @@ namespace vandrel::test {
 namespace {
 
 TEST(TimingTest, TheRateFigureSaysSixtyWhenEveryTickIsRendered) {
-    struct Case {
-        int rendered;
-        int ticks;
-        float expected;
-    };
-    for (const Case& c : {Case{120, 120, 60.0f}, Case{60, 120, 30.0f}, Case{1, 50, 1.2f}, Case{0, 7, 0.0f}}) {
-        renderedFrames = c.rendered;
-        totalTicks = c.ticks;
-        EXPECT_FLOAT_EQ(frameRateFigure(), c.expected) << c.rendered << " of " << c.ticks;
+    for (const auto& [rendered, ticks, expected] :
+         {std::tuple{120, 120, 60.0f}, {60, 120, 30.0f}, {1, 50, 1.2f}, {0, 7, 0.0f}}) {
+        renderedFrames = rendered;
+        totalTicks = ticks;
+        EXPECT_FLOAT_EQ(frameRateFigure(), expected) << rendered << " of " << ticks;
     }
     renderedFrames = 0;
     totalTicks = 0;
@@ -33,21 +31,14 @@ TEST(TimingTest, TheRateFigureSaysSixtyWhenEveryTickIsRendered) {
 TEST(UpdateRateTest, EachRateHasItsMultiplierAndARunningTimer) {
     installAllegroHeadless();
     eventQueue = al_create_event_queue();
-    struct Case {
-        int rate;
-        int multiplier;
-    };
-    for (const Case& c :
-         {Case{15, 1}, Case{30, 1}, Case{45, 1}, Case{60, 1}, Case{120, 2}, Case{144, 2}, Case{240, 1}, Case{1, 1}}) {
-        GameOptions options;
-        setUpdateRate(c.rate, options);
-        EXPECT_EQ(options.updaterate, c.rate);
-        EXPECT_EQ(options.frameMultiplier, c.multiplier) << c.rate;
-        EXPECT_DOUBLE_EQ(al_get_timer_speed(frameTimer), 1.0 / c.rate);
+    GameOptions options;
+    for (const auto& [rate, multiplier] : {std::pair{15, 1}, {60, 1}, {120, 2}, {240, 1}, {1, 1}, {144, 2}}) {
+        setUpdateRate(rate, options);
+        EXPECT_EQ(options.updaterate, rate);
+        EXPECT_EQ(options.frameMultiplier, multiplier) << rate;
+        EXPECT_DOUBLE_EQ(al_get_timer_speed(frameTimer), 1.0 / rate);
         EXPECT_TRUE(al_get_timer_started(frameTimer));
     }
-    GameOptions options;
-    setUpdateRate(144, options);
     ALLEGRO_EVENT event;
     ASSERT_TRUE(al_wait_for_event_timed(eventQueue, &event, 5.0f)) << "the timer is not on the queue";
     EXPECT_EQ(event.type, static_cast<ALLEGRO_EVENT_TYPE>(ALLEGRO_EVENT_TIMER));
@@ -88,17 +79,9 @@ TEST(ProfilerTest, AnAverageForgetsWhatLeftItsWindow) {
     profiler.addAverage("pass", 5);
     const auto [fourth, fourthAverage] = sample(1);
     EXPECT_FLOAT_EQ(fourthAverage, static_cast<float>(fourth)) << "begun again";
-}
-
-TEST(ProfilerTest, AnAverageThatWasNotBegunIsAnError) {
-    Profiler profiler;
-    profiler.start("pass");
-    try {
-        profiler.stopAveraged("pass");
-        FAIL();
-    } catch (const std::out_of_range& failure) {
-        EXPECT_STREQ(failure.what(), "invalid unordered_map<K, T> key");
-    }
+    profiler.start("one without a window");
+    EXPECT_THAT([&] { profiler.stopAveraged("one without a window"); },
+                testing::ThrowsMessage<std::out_of_range>("invalid unordered_map<K, T> key"));
 }
 
 }  // namespace
