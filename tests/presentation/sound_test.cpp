@@ -11,6 +11,7 @@
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "heard_sound.h"
@@ -95,27 +96,20 @@ TEST_F(Sound, TheFourthOfASampleFadesTheFirstAndLeavesTheOthers) {
 TEST_F(Sound, SamplesHaveQueuesOfTheirOwn) {
     initSound(100, 100);
     SoundRecording recording;
-    constexpr std::array<SampleIds, 5> ids{SampleIds::Beat2, SampleIds::Fire, SampleIds::Snake, SampleIds::Wimbaah,
-                                           SampleIds::Slide};
-    for (std::size_t i = 0; i < ids.size(); ++i) {
-        playSample(ids[i], quarterVolume, centrePan, 1000 + 200 * static_cast<int>(i));
+    int speed = 1000;
+    for (const SampleIds id :
+         {SampleIds::Beat2, SampleIds::Fire, SampleIds::Snake, SampleIds::Wimbaah, SampleIds::Slide}) {
+        playSample(id, quarterVolume, centrePan, speed);
+        speed += 200;
     }
-    for (std::size_t i = 0; i < ids.size(); ++i) {
-        EXPECT_TRUE(recording.waitForLevel(500 + 100 * static_cast<int>(i), expectedLevel)) << "number " << i;
+    for (const int pitch : {500, 600, 700, 800, 900}) {
+        EXPECT_TRUE(recording.waitForLevel(pitch, expectedLevel)) << pitch << " Hz";
     }
 }
 
 TEST_F(Sound, VolumePanAndSpeed) {
-    struct Case {
-        const char* what;
-        int volume;
-        int pan;
-        int speed;
-        int pitch;
-        double left;
-        double right;
-    };
-    const Case cases[] = {
+    // Volume, pan and speed; the pitch that is heard, and how loud on the left and on the right.
+    const std::tuple<const char*, int, int, int, int, double, double> cases[] = {
         {"no panning leaves both sides whole", 100, 128, 1000, 500, 0.383, 0.383},
         {"a centred pan would share the power", 100, 127, 1000, 500, 0.271, 0.270},
         {"the left edge", 100, 0, 1000, 500, 0.383, 0},
@@ -124,13 +118,13 @@ TEST_F(Sound, VolumePanAndSpeed) {
         {"an octave up", 100, 128, 2000, 1000, 0.383, 0.383},
         {"an octave down", 100, 128, 500, 250, 0.383, 0.383},
     };
-    for (const Case& row : cases) {
+    for (const auto& [what, volume, pan, speed, pitch, left, right] : cases) {
         initSound(100, 100);
         SoundRecording recording;
-        playSample(test::longSample, row.volume, row.pan, row.speed);
-        const std::size_t louder = row.left < row.right ? 1 : 0;
-        EXPECT_TRUE(recording.waitForLevel(row.pitch, std::max(row.left, row.right), louder)) << row.what;
-        EXPECT_TRUE(recording.waitForLevel(row.pitch, std::min(row.left, row.right), 1 - louder)) << row.what;
+        playSample(test::longSample, volume, pan, speed);
+        const std::size_t louder = left < right ? 1 : 0;
+        EXPECT_TRUE(recording.waitForLevel(pitch, std::max(left, right), louder)) << what;
+        EXPECT_TRUE(recording.waitForLevel(pitch, std::min(left, right), 1 - louder)) << what;
         shutdownSound();
     }
 }
