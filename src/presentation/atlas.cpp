@@ -1,9 +1,7 @@
 #include "presentation/atlas.h"
 
-#include <map>
 #include <optional>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "presentation/atlas_layout.h"
@@ -28,7 +26,8 @@ Atlas& atlas() {
     return *theAtlas;
 }
 
-std::map<std::pair<int, int>, std::unique_ptr<BitmapWrapper>> canvases;
+// What every picture is composed on, in its top left corner: as wide as a page, and as high as the highest picture yet.
+std::unique_ptr<BitmapWrapper> canvas;
 
 const ALLEGRO_COLOR transparent{0.0f, 0.0f, 0.0f, 0.0f};
 
@@ -50,12 +49,13 @@ void replacePixels(ALLEGRO_BITMAP* source, const BitmapWrapper& target, int x, i
     al_set_blender(ALLEGRO_ADD, ALLEGRO_ONE, ALLEGRO_INVERSE_ALPHA);
 }
 
-const BitmapWrapper& canvasOf(int width, int height) {
-    std::unique_ptr<BitmapWrapper>& canvas = canvases[{width, height}];
-    if (!canvas) {
-        canvas = std::make_unique<BitmapWrapper>(width, height, false);
+// The corner of the canvas of that size, to be let go before the next picture is composed.
+BitmapWrapper cornerOfCanvas(int width, int height) {
+    if (!canvas || canvas->height() < height) {
+        canvas.reset();
+        canvas = std::make_unique<BitmapWrapper>(pageSize, height, false);
     }
-    return *canvas;
+    return {al_create_sub_bitmap(canvas->bitmap, 0, 0, width, height), true};
 }
 
 }  // namespace
@@ -88,21 +88,22 @@ void destroyBitmap(ALLEGRO_BITMAP* bitmap) {
 
 std::shared_ptr<BitmapWrapper> composePicture(int width, int height,
                                               const std::function<void(const BitmapWrapper&)>& paint) {
-    const BitmapWrapper& canvas = canvasOf(width, height);
-    clearTo(canvas, transparent);
-    paint(canvas);
-    if (ALLEGRO_BITMAP* part = copyIntoAtlas(canvas.bitmap)) {
-        return std::make_shared<BitmapWrapper>(part, true);
+    const auto paintOn = [&paint](const BitmapWrapper& blank) {
+        clearTo(blank, transparent);
+        paint(blank);
+    };
+    if (!atlas().layout.fits(width, height)) {
+        auto picture = std::make_shared<BitmapWrapper>(width, height, false);
+        paintOn(*picture);
+        return picture;
     }
-    // Too long for a page: the canvas itself is the picture, and the next one gets a new canvas.
-    const auto found = canvases.find({width, height});
-    std::shared_ptr<BitmapWrapper> picture = std::move(found->second);
-    canvases.erase(found);
-    return picture;
+    const BitmapWrapper corner = cornerOfCanvas(width, height);
+    paintOn(corner);
+    return std::make_shared<BitmapWrapper>(copyIntoAtlas(corner.bitmap), true);
 }
 
-void releaseCanvases() {
-    canvases.clear();
+void releaseCanvas() {
+    canvas.reset();
 }
 
 }  // namespace vandrel

@@ -24,7 +24,7 @@ void destroyBitmap(ALLEGRO_BITMAP* bitmap);
 std::shared_ptr<BitmapWrapper> composePicture(int width, int height,
                                               const std::function<void(const BitmapWrapper&)>& paint);
 
-// Frees the canvases that `composePicture` keeps for the next picture of the same size.
-void releaseCanvases();
+// Frees the canvas that `composePicture` keeps for the next picture.
+void releaseCanvas();
 
 }  // namespace vandrel

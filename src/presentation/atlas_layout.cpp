@@ -1,5 +1,6 @@
 #include "presentation/atlas_layout.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace vandrel {
@@ -28,12 +29,16 @@ AtlasLayout::Row& AtlasLayout::addRow(int height) {
     return rows_.emplace_back(std::move(row));
 }
 
+bool AtlasLayout::fits(int width, int height) const {
+    return std::max(width, height) + 2 * atlasBorder <= pageSize_;
+}
+
 std::optional<AtlasPlace> AtlasLayout::place(int width, int height) {
-    const int outerWidth = width + 2 * atlasBorder;
-    const int outerHeight = height + 2 * atlasBorder;
-    if (outerWidth > pageSize_ || outerHeight > pageSize_) {
+    if (!fits(width, height)) {
         return {};
     }
+    const int outerWidth = width + 2 * atlasBorder;
+    const int outerHeight = height + 2 * atlasBorder;
     for (Row& row : rows_) {
         if (row.height != outerHeight) {
             continue;

@@ -23,6 +23,8 @@ class AtlasLayout {
   public:
     explicit AtlasLayout(int pageSize) : pageSize_(pageSize) {}
 
+    // Whether a page could hold a picture of this size.
+    bool fits(int width, int height) const;
     // A free place of this size, on a new page if need be; empty when no page could hold it.
     std::optional<AtlasPlace> place(int width, int height);
     // Makes a place free for another picture.

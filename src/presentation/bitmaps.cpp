@@ -61,7 +61,7 @@ void loadBitmaps(std::optional<int> id) {
 }
 
 void releaseBitmapCaches() {
-    releaseCanvases();
+    releaseCanvas();
 }
 
 ALLEGRO_BITMAP* getBitmap(BitmapIds id) {

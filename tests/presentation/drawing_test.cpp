@@ -117,6 +117,9 @@ TEST_F(DrawingLayer, ComposedPicturesKeepApart) {
     const auto third = composePicture(20, 20, [](const BitmapWrapper&) {});
     EXPECT_TRUE(isTransparentAt(*third, 10, 10)) << "nothing is left of what lay there";
     EXPECT_EQ(pixelAt(*second, 0, 0), blue);
+    const auto larger = composePicture(40, 30, [](const BitmapWrapper&) {});
+    EXPECT_TRUE(isTransparentAt(*larger, 5, 5)) << "nothing is left of a smaller one";
+    EXPECT_TRUE(isTransparentAt(*larger, 39, 29));
     const auto strip = composePicture(3000, 32, [](const BitmapWrapper& canvas) { clearTo(canvas, toColour(red)); });
     EXPECT_EQ(strip->width(), 3000);
     EXPECT_EQ(pixelAt(*strip, 2999, 31), red);
