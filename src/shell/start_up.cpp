@@ -32,6 +32,7 @@
 #include "shell/config.h"
 #include "shell/display.h"
 #include "shell/display_mode.h"
+#include "shell/large_blocks.h"
 #include "shell/log.h"
 #include "shell/paths.h"
 #include "shell/switches.h"
@@ -164,6 +165,7 @@ void startTicking() {
 }  // namespace
 
 void init(int argc, const char* const* argv) {
+    keepLargeBlocksApart();
     bringUpPlatform();
     logText("Getting config settings\n");
     openConfig(appDataDir() + "/vandrel.cfg");
