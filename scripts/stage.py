@@ -313,8 +313,11 @@ def sound_server_answers(environment=None):
     """Whether a sound server answers, the user's own or that of `environment`."""
     if shutil.which("pactl") is None:
         return False
-    answer = subprocess.run(["pactl", "info"], env={**os.environ, **(environment or {})}, stdin=subprocess.DEVNULL,
-                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
+    try:
+        answer = subprocess.run(["pactl", "info"], env={**os.environ, **(environment or {})}, stdin=subprocess.DEVNULL,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False, timeout=30)
+    except subprocess.TimeoutExpired:  # a server that hangs
+        return False
     return answer.returncode == 0
 
 
