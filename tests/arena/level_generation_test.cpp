@@ -4,52 +4,27 @@
 
 #include <array>
 #include <map>
-#include <memory>
 
-#include "arena/bonus.h"
-#include "arena/game.h"
 #include "base/random.h"
-#include "match/options/game_options.h"
-#include "players/player.h"
-#include "shell/log.h"
 #include "shell/switches.h"
+#include "support/round_fixture.h"
 
 namespace vandrel {
 namespace {
 
 class LevelGenerationTest : public testing::Test {
   protected:
-    void SetUp() override {
-        setDebugOutput([](const char* /*line*/, std::size_t /*length*/) {});
-        gameOptions = GameOptions{};
-        gameOptions.arenaSizeResolved = 3;
+    LevelGenerationTest() {
         gameOptions.gridBlocksResolved = true;
         gameOptions.wallPercent = 70;
         gameOptions.powerupPercent = 40;
-        gameOptions.auctionInterval = 0;
-        gameOptions.timeBeforeShrinkingFrames = 5400;
-        lootboxesEnabled = true;
-        addPlayers(2);
+        gameOptions.numPlayers = 2;
+        round_.addPlayer({1, 1});
+        round_.addPlayer({1, 1});
     }
-    void TearDown() override {
-        game_ = nullptr;
-        players.clear();
-        teams.clear();
-        gameOptions = GameOptions{};
-        lootboxesEnabled = true;
-    }
+    ~LevelGenerationTest() override { lootboxesEnabled = true; }
 
-    static void addPlayers(int count) {
-        players.clear();
-        for (int i = 0; i < count; ++i) {
-            players.push_back(std::make_shared<Player>(i, 0, -1, PlayerLook{}, std::make_shared<NoControls>()));
-        }
-        gameOptions.numPlayers = count;
-    }
-    void generate(bool forJoinScreen = false) {
-        game_ = std::make_unique<Game>(PackagedReplayData{});
-        setUpRound({27, 15}, {}, *game_, forJoinScreen);
-    }
+    void generate(bool forJoinScreen = false) { setUpRound({27, 15}, {}, round_.game(), forJoinScreen); }
     template <class Visit>
     static void forEachSquare(Visit visit) {
         for (int x = 0; x < grid_squares_x; ++x) {
@@ -73,12 +48,15 @@ class LevelGenerationTest : public testing::Test {
         return -1;
     }
 
-    std::unique_ptr<Game> game_;
+    TestRound round_;
 };
 
-TEST_F(LevelGenerationTest, TheRingIsEdgeWallAndPillarsStandOnEvenSquares) {
+TEST_F(LevelGenerationTest, ARingOfEdgeWallPillarsOnEvenSquaresAndPowerupsUnderWallsOnly) {
     generate();
-    forEachSquare([](Square square, int kind, int /*bonus*/) {
+    int bonuses = 0;
+    forEachSquare([&](Square square, int kind, int bonus) {
+        bonuses += bonus != 0 ? 1 : 0;
+        EXPECT_TRUE(bonus == 0 || isBreakableWall(kind));
         if (!isInnerSquare(square)) {
             EXPECT_EQ(kind, SquareKind::EdgeWall);
         } else if (square.x % 2 == 0 && square.y % 2 == 0) {
@@ -87,35 +65,16 @@ TEST_F(LevelGenerationTest, TheRingIsEdgeWallAndPillarsStandOnEvenSquares) {
             EXPECT_TRUE(kind == SquareKind::Empty || isBreakableWall(kind));
         }
     });
-}
-
-TEST_F(LevelGenerationTest, PowerupsLieOnlyUnderWalls) {
-    generate();
-    int bonuses = 0;
-    forEachSquare([&](Square /*square*/, int kind, int bonus) {
-        bonuses += bonus != 0 ? 1 : 0;
-        EXPECT_TRUE(bonus == 0 || isBreakableWall(kind));
-    });
     EXPECT_GT(bonuses, 10);
 }
 
-TEST_F(LevelGenerationTest, WithoutWallsEachSquareOffThePillarsCostsOneDraw) {
-    gameOptions.wallPercent = 0;
-    game_ = std::make_unique<Game>(PackagedReplayData{});
-    const int inner = 25 * 13;
-    const int pillars = 12 * 6;
-    EXPECT_EQ(drawsOf([&] { setUpRound({27, 15}, {}, *game_, false); }), inner - pillars);
-    forEachSquare([](Square square, int kind, int bonus) {
-        EXPECT_TRUE(!isInnerSquare(square) || kind == SquareKind::Empty || kind == SquareKind::GridBlock);
-        EXPECT_EQ(bonus, 0);
-    });
-}
-
-TEST_F(LevelGenerationTest, WallsWithoutPowerupsCostThreeDrawsEach) {
-    gameOptions.wallPercent = 100;
+TEST_F(LevelGenerationTest, ASquareOffThePillarsCostsOneDrawAndAWallTwoMore) {
+    constexpr int squares = 25 * 13 - 12 * 6;
     gameOptions.powerupPercent = 0;
-    game_ = std::make_unique<Game>(PackagedReplayData{});
-    EXPECT_EQ(drawsOf([&] { setUpRound({27, 15}, {}, *game_, false); }), 3 * (25 * 13 - 12 * 6));
+    for (const auto& [percent, drawsEach] : std::map<int, int>{{0, 1}, {100, 3}}) {
+        gameOptions.wallPercent = percent;
+        EXPECT_EQ(drawsOf([&] { generate(); }), drawsEach * squares) << percent;
+    }
 }
 
 TEST_F(LevelGenerationTest, EachPlayerHasAnOpenPlusOfTwoSquaresRoundTheStart) {
@@ -151,91 +110,83 @@ TEST_F(LevelGenerationTest, BasesFlagsAndHillStandWhereTheModeWantsThem) {
     teams[1].score = 5;
     teams[1].displayedScore = 4;
     generate();
-    EXPECT_EQ(teams[0].base(), (Square{1, 7}));
-    EXPECT_EQ(teams[1].base(), (Square{25, 7}));
-    EXPECT_EQ(teams[2].base(), (Square{13, 1}));
-    EXPECT_EQ(teams[3].base(), (Square{13, 13}));
-    EXPECT_EQ((Square{teams[1].pushX, teams[1].pushY}), (Square{-1, 0}));
-    EXPECT_EQ((Square{teams[3].pushX, teams[3].pushY}), (Square{0, -1}));
+    const std::array<std::pair<Square, Square>, 4> basesAndPushes{
+        {{{1, 7}, {1, 0}}, {{25, 7}, {-1, 0}}, {{13, 1}, {0, 1}}, {{13, 13}, {0, -1}}}};
+    const Game& game = round_.game();
+    ASSERT_EQ(game.flags.size(), 4U);
+    for (std::size_t team = 0; team < 4; ++team) {
+        const auto& [base, push] = basesAndPushes[team];
+        EXPECT_EQ(teams[team].base(), base);
+        EXPECT_EQ((Square{teams[team].pushX, teams[team].pushY}), push);
+        EXPECT_EQ(game.flags[team].position(), squareToPixel(base));
+        EXPECT_TRUE(game.flags[team].inBase);
+    }
     EXPECT_EQ(teams[1].score, 0);
     EXPECT_EQ(teams[1].displayedScore, 0);
-    ASSERT_EQ(game_->flags.size(), 4U);
-    EXPECT_EQ(game_->flags[2].position(), (Pixel{13 * 32, 32}));
-    EXPECT_TRUE(game_->flags[2].inBase);
-    EXPECT_EQ(game_->hillLeft, 10);
-    EXPECT_EQ(game_->hillRight, 16);
-    EXPECT_EQ(game_->hillTop, 5);
-    EXPECT_EQ(game_->hillBottom, 9);
-}
+    EXPECT_EQ((Square{game.hillLeft, game.hillTop}), (Square{10, 5}));
+    EXPECT_EQ((Square{game.hillRight, game.hillBottom}), (Square{16, 9}));
 
-TEST_F(LevelGenerationTest, ASingleFlagStandsInTheMiddleAndBelongsToNobody) {
-    gameOptions.gameMode = GameMode::CaptureTheFlag;
     gameOptions.singleFlag = true;
-    teams.assign(2, Team{});
     generate();
-    ASSERT_EQ(game_->flags.size(), 1U);
-    EXPECT_EQ(game_->flags[0].team, -1);
-    EXPECT_EQ(game_->flags[0].position(), (Pixel{13 * 32, 7 * 32}));
+    ASSERT_EQ(game.flags.size(), 1U);
+    EXPECT_EQ(game.flags[0].team, -1) << "belongs to nobody";
+    EXPECT_EQ(game.flags[0].position(), squareToPixel({13, 7})) << "in the middle";
 }
 
 // The draw of powerups, against the weights as a player reads them: shares of many draws.
 class ChooseBonusTest : public LevelGenerationTest {
   protected:
-    static std::array<int, bonusCount> count(bool forAuction, int draws) {
+    static void expectShares(bool forAuction, int sum, const std::map<int, int>& weights) {
+        constexpr int draws = 200'000;
         seedGameRand(4711);
         std::array<int, bonusCount> counts{};
         for (int i = 0; i < draws; ++i) {
             ++counts[static_cast<std::size_t>(chooseBonus(forAuction))];
         }
-        return counts;
+        for (const auto& [bonus, weight] : weights) {
+            EXPECT_NEAR(counts[static_cast<std::size_t>(bonus)], 1.0 * draws * weight / sum,
+                        weight == 0 ? 0.0 : draws * 0.003)
+                << bonus;
+        }
     }
 };
 
-TEST_F(ChooseBonusTest, FollowsTheWeightsOfTheLevel) {
-    constexpr int draws = 200'000;
-    constexpr double sum = 259.0;
-    const auto counts = count(false, draws);
-    const std::map<int, int> weights{
-        {Bonus::Bomb, 70}, {Bonus::Range, 40},    {Bonus::Speed, 50},         {Bonus::Controller, 5},
-        {Bonus::Cash, 20}, {Bonus::Superman, 10}, {Bonus::QuestionShield, 8}, {Bonus::QuestionFastIgnition, 4}};
-    for (const auto& [bonus, weight] : weights) {
-        EXPECT_NEAR(counts[static_cast<std::size_t>(bonus)], draws * weight / sum, draws * 0.003) << bonus;
-    }
-    EXPECT_EQ(counts[Bonus::None], 0);
-    EXPECT_EQ(counts[Bonus::Death], 0);
-}
-
-TEST_F(ChooseBonusTest, NeverAuctionsCashNorMostHiddenPowerups) {
-    const auto counts = count(true, 50'000);
-    for (const int bonus :
-         {Bonus::Cash, Bonus::QuestionShield, Bonus::QuestionGhost, Bonus::QuestionStop, Bonus::Death}) {
-        EXPECT_EQ(counts[static_cast<std::size_t>(bonus)], 0) << bonus;
-    }
-    EXPECT_GT(counts[Bonus::QuestionFastIgnition], 0);
-}
-
-TEST_F(ChooseBonusTest, RemoteControlIsRarerInSnakeHunter) {
+TEST_F(ChooseBonusTest, FollowsTheWeightsOfTheLevelTheAuctionAndTheMode) {
+    expectShares(false, 259,
+                 {{Bonus::None, 0},
+                  {Bonus::Bomb, 70},
+                  {Bonus::Range, 40},
+                  {Bonus::Speed, 50},
+                  {Bonus::Controller, 5},
+                  {Bonus::Cash, 20},
+                  {Bonus::Superman, 10},
+                  {Bonus::QuestionShield, 8},
+                  {Bonus::QuestionFastIgnition, 4},
+                  {Bonus::Death, 0}});
+    expectShares(true, 127,
+                 {{Bonus::Bomb, 20},
+                  {Bonus::Cash, 0},
+                  {Bonus::QuestionShield, 0},
+                  {Bonus::QuestionGhost, 0},
+                  {Bonus::QuestionStop, 0},
+                  {Bonus::QuestionFastIgnition, 4},
+                  {Bonus::Death, 0}});
     gameOptions.gameMode = GameMode::SnakeHunter;
-    constexpr int draws = 200'000;
-    EXPECT_NEAR(count(false, draws)[Bonus::Controller], draws / 255.0, draws * 0.001);
+    expectShares(false, 255, {{Bonus::Bomb, 70}, {Bonus::Controller, 1}});
 }
 
 TEST_F(ChooseBonusTest, CashIsLeftOutWhereItWouldBuyNothing) {
     lootboxesEnabled = false;
-    EXPECT_EQ(count(false, 20'000)[Bonus::Cash], 0);
+    expectShares(false, 239, {{Bonus::Bomb, 70}, {Bonus::Cash, 0}});
     gameOptions.auctionInterval = 1000;
-    EXPECT_GT(count(false, 20'000)[Bonus::Cash], 0);
+    expectShares(false, 259, {{Bonus::Cash, 20}});
 }
 
-TEST_F(ChooseBonusTest, WithEverythingDisabledNothingIsDrawn) {
+TEST_F(ChooseBonusTest, WhatIsDisabledIsNotDrawn) {
     gameOptions.powerupDisabled.fill(true);
     EXPECT_EQ(drawsOf([] { EXPECT_EQ(chooseBonus(false), Bonus::None); }), 0);
-}
-
-TEST_F(ChooseBonusTest, TheOnlyPowerupLeftIsAlwaysDrawn) {
-    gameOptions.powerupDisabled.fill(true);
     gameOptions.powerupDisabled[Bonus::UltraBomb] = false;
-    EXPECT_EQ(count(true, 100)[Bonus::UltraBomb], 100);
+    expectShares(true, 1, {{Bonus::UltraBomb, 1}});
 }
 
 }  // namespace
