@@ -1,42 +1,55 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "arena/sparks.h"
-#include "shell/frame_counter.h"
 #include "support/round_fixture.h"
 
 namespace vandrel {
 namespace {
 
-RoundSetup setupOf(GameMode mode) {
-    RoundSetup setup;
-    setup.size = {19, 11};
-    setup.mode = mode;
-    return setup;
-}
+using Numbers = std::vector<int>;
 
-void addFlag(TestRound& round, int team) {
-    Flag flag;
-    flag.team = team;
-    flag.moveTo(squareToPixel(flagHome(flag)));
-    round.game().flags.push_back(flag);
-}
+// A round of the mode with teams that nobody is in yet.
+class ModeRound : public TestRound {
+  public:
+    explicit ModeRound(GameMode mode, int teamCount = 0, int rate = 60)
+        : TestRound({.size = {19, 11}, .rate = rate, .mode = mode}) {
+        for (int team = 0; team < teamCount; ++team) {
+            addTeam({1 + 16 * team, 5});
+        }
+    }
+
+    bool isOver() { return game().isRoundOver(); }
+    // The numbers of the teams or players who have won as it stands.
+    Numbers winners() {
+        const Winners won = game().getWinners();
+        if (const auto* byTeam = std::get_if<TeamWinners>(&won)) {
+            return byTeam->teams;
+        }
+        Numbers numbers;
+        for (const auto& player : std::get<PlayerWinners>(won).players) {
+            numbers.push_back(player->num);
+        }
+        return numbers;
+    }
+};
 
 // Flags that nobody carries. Who touches one is told where the players' side of flags is tested.
 class LooseFlagTest : public testing::Test {
   protected:
-    LooseFlagTest() : round_(setupOf(GameMode::CaptureTheFlag)) {
+    LooseFlagTest() {
         for (int team = 0; team < 2; ++team) {
-            round_.addTeam({1 + 16 * team, 5});
-            addFlag(round_, team);
+            Flag flag;
+            flag.team = team;
+            flag.moveTo(squareToPixel(flagHome(flag)));
+            round_.game().flags.push_back(flag);
         }
     }
     Flag& flag() { return round_.game().flags[1]; }
 
-    TestRound round_;
+    ModeRound round_{GameMode::CaptureTheFlag, 2};
 };
 
 TEST_F(LooseFlagTest, OfADeadCarrierSlidesOntoItsSquare) {
@@ -63,67 +76,55 @@ TEST_F(LooseFlagTest, InsideAWallCrawlsTowardItsBase) {
     EXPECT_TRUE(flag().inBase);
 }
 
-class HillTest : public testing::Test {
-  protected:
-    HillTest() : round_(setupOf(GameMode::KingOfTheHill)) {
-        round_.addTeam({1, 5});
-        round_.addTeam({17, 5});
-        round_.game().hillLeft = 8;
-        round_.game().hillRight = 10;
-        round_.game().hillTop = 4;
-        round_.game().hillBottom = 6;
+TEST(Hill, ScoresOnceASecondForTheLivingOfATeamUpToItsBordersAndTheNumberAtTheBaseFollows) {
+    for (const int rate : {60, 120}) {
+        SCOPED_TRACE(rate);
+        ModeRound round(GameMode::KingOfTheHill, 2, rate);
+        Game& game = round.game();
+        game.hillLeft = 8;
+        game.hillRight = 10;
+        game.hillTop = 4;
+        game.hillBottom = 6;
+        const auto king = round.addPlayer({10, 6}, 0);
+        round.addPlayer({11, 6}, 0);
+        round.addPlayer({9, 5});
+        const auto ghost = round.addPlayer({8, 4}, 1);
+        ghost->ghost = true;
+        ghost->shieldTimer = Player::lastingShield();
+        const auto dead = round.addPlayer({9, 5}, 1);
+        dead->dead = true;
+        dead->respawnTimer = 1000;
+        round.step();
+        EXPECT_EQ(teams[0].score, 1);
+        EXPECT_EQ(king->trailTimer, 61);
+        EXPECT_EQ(teams[0].displayedScore, 0);
+        round.step(rate - 1);
+        EXPECT_EQ(teams[0].score, 1);
+        round.step();
+        EXPECT_EQ(teams[0].score, 2);
+        EXPECT_TRUE(rate == 120 || round.stepUntil([] { return teams[0].displayedScore == 1; }) == 29)
+            << "ninety updates after the first point";
+        EXPECT_EQ(teams[1].score, 0) << "neither ghosts nor the dead";
     }
-    TestRound round_;
-};
-
-TEST_F(HillTest, ScoresOnceASecondAndTheNumberAtTheBaseFollows) {
-    const auto king = round_.addPlayer({8, 4}, 1);
-    round_.step();
-    EXPECT_EQ(teams[1].score, 1);
-    EXPECT_EQ(king->trailTimer, 61);
-    EXPECT_EQ(teams[1].displayedScore, 0);
-    round_.step(59);
-    EXPECT_EQ(teams[1].score, 1);
-    round_.step();
-    EXPECT_EQ(teams[1].score, 2);
-    round_.step(29);
-    EXPECT_EQ(teams[1].displayedScore, 1) << "ninety updates after the first point";
-}
-
-TEST_F(HillTest, TheBordersCountAndGhostsTheDeadAndTheTeamlessDoNot) {
-    round_.addPlayer({10, 6}, 0);
-    round_.addPlayer({11, 6}, 0);
-    const auto ghost = round_.addPlayer({9, 5}, 1);
-    ghost->ghost = true;
-    ghost->shieldTimer = Player::lastingShield();
-    const auto dead = round_.addPlayer({9, 5}, 1);
-    dead->dead = true;
-    dead->respawnTimer = 1000;
-    round_.addPlayer({9, 5});
-    round_.step();
-    EXPECT_EQ(teams[0].score, 1);
-    EXPECT_EQ(teams[1].score, 0);
 }
 
 // When a round is over, by mode, and who has won it.
 TEST(RoundEnd, ClassicEndsWithOneLeftAndTheLivingWin) {
-    TestRound round(setupOf(GameMode::Classic));
+    ModeRound round(GameMode::Classic);
     const auto first = round.addPlayer({1, 1});
     const auto second = round.addPlayer({5, 5});
     gameOptions.numPlayers = 2;
-    EXPECT_FALSE(round.game().isRoundOver());
+    EXPECT_FALSE(round.isOver());
     second->dead = true;
-    EXPECT_TRUE(round.game().isRoundOver());
-    EXPECT_EQ(std::get<PlayerWinners>(round.game().getWinners()).players, (std::vector{first}));
+    EXPECT_TRUE(round.isOver());
+    EXPECT_EQ(round.winners(), Numbers{0});
     first->dead = true;
-    EXPECT_TRUE(std::get<PlayerWinners>(round.game().getWinners()).players.empty());
+    EXPECT_EQ(round.winners(), Numbers{});
 }
 
 TEST(RoundEnd, TheRoundGoesOnForFourSecondsAndALaterChangeHasNoEffect) {
     for (const int rate : {60, 120}) {
-        RoundSetup setup = setupOf(GameMode::Classic);
-        setup.rate = rate;
-        TestRound round(setup);
+        ModeRound round(GameMode::Classic, 0, rate);
         round.addPlayer({1, 1});
         const auto second = round.addPlayer({5, 5});
         gameOptions.numPlayers = 2;
@@ -137,83 +138,78 @@ TEST(RoundEnd, TheRoundGoesOnForFourSecondsAndALaterChangeHasNoEffect) {
 TEST(RoundEnd, ModesOfPointsEndWithTheWalls) {
     for (const GameMode mode : {GameMode::CaptureTheFlag, GameMode::KingOfTheHill, GameMode::Deathmatch,
                                 GameMode::Everything, GameMode::SnakeHunter}) {
-        TestRound round(setupOf(mode));
+        ModeRound round(mode);
         round.game().aiSnakesLeft = 1;
-        EXPECT_FALSE(round.game().isRoundOver());
-        round.game().shrinkState = ShrinkState::Finished;
-        EXPECT_TRUE(round.game().isRoundOver());
+        for (const ShrinkState state : {ShrinkState::Waiting, ShrinkState::Shrinking, ShrinkState::Finished}) {
+            round.game().shrinkState = state;
+            EXPECT_EQ(round.isOver(), state == ShrinkState::Finished) << static_cast<int>(mode);
+        }
     }
 }
 
 TEST(RoundEnd, BattleRoyaleEndsWithOneTeamThatCanStillRescue) {
-    TestRound round(setupOf(GameMode::BattleRoyale));
-    round.addTeam({1, 1});
-    round.addTeam({1, 1});
+    ModeRound round(GameMode::BattleRoyale, 2);
     const auto first = round.addPlayer({1, 1}, 0);
     const auto second = round.addPlayer({5, 5}, 1);
-    EXPECT_FALSE(round.game().isRoundOver());
-    second->crawling = true;
-    second->crawlTimer = 100;
-    EXPECT_FALSE(round.game().isRoundOver()) << "who gets up by himself is not down";
-    EXPECT_EQ(std::get<TeamWinners>(round.game().getWinners()).teams, std::vector{0});
-    second->crawlTimer = 0;
-    EXPECT_TRUE(round.game().isRoundOver());
-    first->dead = true;
-    EXPECT_TRUE(std::get<TeamWinners>(round.game().getWinners()).teams.empty());
+    EXPECT_FALSE(round.isOver());
+    first->crawling = true;
+    first->crawlTimer = 100;
+    EXPECT_FALSE(round.isOver()) << "who gets up by himself is not down";
+    EXPECT_EQ(round.winners(), Numbers{1}) << "but not upright either";
+    first->crawlTimer = 0;
+    EXPECT_TRUE(round.isOver());
+    second->dead = true;
+    EXPECT_EQ(round.winners(), Numbers{});
 }
 
-TEST(RoundEnd, SnakeHunterEndsWithTheSnakesOrTheHumans) {
-    RoundSetup setup = setupOf(GameMode::SnakeHunter);
-    setup.tune = [](GameOptions& options) { options.snakeHunterRespawn = false; };
-    TestRound round(setup);
-    round.addTeam({1, 1});
-    round.addTeam({1, 1});
+TEST(RoundEnd, SnakeHunterEndsWithTheSnakesOrTheHumansWhoDoNotComeBack) {
+    ModeRound round(GameMode::SnakeHunter, 2);
     const auto human = round.addPlayer({1, 1}, 0);
-    gameOptions.numPlayers = 1;
     const auto snake = round.addSnake({9, 5}, Facing::Right, 4, true);
-    round.game().aiSnakesLeft = 0;
-    EXPECT_FALSE(round.game().isRoundOver());
-    human->dead = true;
-    EXPECT_TRUE(round.game().isRoundOver());
-    EXPECT_EQ(std::get<TeamWinners>(round.game().getWinners()).teams, std::vector{1});
-    human->dead = false;
-    snake->dead = true;
-    EXPECT_TRUE(round.game().isRoundOver());
-    EXPECT_EQ(std::get<TeamWinners>(round.game().getWinners()).teams, std::vector{0});
-    gameOptions.snakeHunterRespawn = true;
-    snake->dead = false;
-    human->dead = true;
-    EXPECT_FALSE(round.game().isRoundOver()) << "the dead come back";
+    gameOptions.numPlayers = 1;
+    struct Case {
+        bool comeBack;
+        bool humanDead;
+        bool snakeDead;
+        int stillToCome;
+        bool over;
+        int winner;
+    };
+    for (const Case& c : {Case{false, false, false, 0, false, 1}, Case{false, true, false, 0, true, 1},
+                          Case{false, false, true, 1, false, 1}, Case{false, false, true, 0, true, 0},
+                          Case{true, true, false, 0, false, 1}, Case{true, false, true, 0, true, 0}}) {
+        SCOPED_TRACE(testing::Message() << "come back " << c.comeBack << ", human dead " << c.humanDead
+                                        << ", snake dead " << c.snakeDead << ", still to come " << c.stillToCome);
+        gameOptions.snakeHunterRespawn = c.comeBack;
+        human->dead = c.humanDead;
+        snake->dead = c.snakeDead;
+        round.game().aiSnakesLeft = c.stillToCome;
+        EXPECT_EQ(round.isOver(), c.over);
+        EXPECT_EQ(round.winners(), Numbers{c.winner});
+    }
 }
 
 TEST(RoundEnd, TheHighestScoreWinsAndNobodyWithoutOne) {
-    TestRound round(setupOf(GameMode::KingOfTheHill));
-    for (int i = 0; i < 3; ++i) {
-        round.addTeam({1, 1});
-    }
-    struct Case {
-        std::vector<int> scores;
-        std::vector<int> winners;
-    };
-    for (const Case& c : std::vector<Case>{{{0, 0, 0}, {}}, {{3, 1, 3}, {0, 2}}, {{-2, 0, -1}, {}}, {{0, 1, 0}, {1}}}) {
+    ModeRound round(GameMode::KingOfTheHill, 3);
+    for (const auto& [scores, winners] : std::vector<std::pair<Numbers, Numbers>>{
+             {{0, 0, 0}, {}}, {{3, 1, 3}, {0, 2}}, {{-2, 0, -1}, {}}, {{0, 1, 0}, {1}}}) {
         for (std::size_t i = 0; i < 3; ++i) {
-            teams[i].score = c.scores[i];
+            teams[i].score = scores[i];
         }
-        EXPECT_EQ(std::get<TeamWinners>(round.game().getWinners()).teams, c.winners);
+        EXPECT_EQ(round.winners(), winners);
     }
 }
 
 TEST(RoundEnd, DeathmatchTiesShareTheWinUnlessEverybodyTies) {
-    TestRound round(setupOf(GameMode::Deathmatch));
-    const auto first = round.addPlayer({1, 1});
-    const auto second = round.addPlayer({3, 3});
-    const auto third = round.addPlayer({5, 5});
-    EXPECT_TRUE(std::get<PlayerWinners>(round.game().getWinners()).players.empty());
-    first->kills = 2;
-    third->kills = 2;
-    EXPECT_EQ(std::get<PlayerWinners>(round.game().getWinners()).players, (std::vector{first, third}));
-    second->kills = 3;
-    EXPECT_EQ(std::get<PlayerWinners>(round.game().getWinners()).players, (std::vector{second}));
+    ModeRound round(GameMode::Deathmatch);
+    for (const auto& [kills, winners] : std::vector<std::pair<Numbers, Numbers>>{
+             {{0, 0, 0}, {}}, {{2, 0, 2}, {0, 2}}, {{2, 3, 2}, {1}}, {{0, -1, -1}, {0}}}) {
+        for (std::size_t i = 0; i < 3; ++i) {
+            const auto player = players.size() == i ? round.addPlayer({1, 1}) : players[i];
+            player->kills = kills[i];
+        }
+        EXPECT_EQ(round.winners(), winners);
+    }
 }
 
 TEST(Sparks, FallAndGoOutAfterTwoHundredFortyUpdates) {
@@ -234,22 +230,19 @@ TEST(Sparks, FallAndGoOutAfterTwoHundredFortyUpdates) {
 }
 
 TEST(ModeSwitches, EverythingIsAnySubsetOfTheOthers) {
-    const TestRound round(setupOf(GameMode::Everything));
-    struct Switch {
-        bool GameOptions::*field;
-        GameMode mode;
-    };
-    const std::vector<Switch> switches{{&GameOptions::everythingCTF, GameMode::CaptureTheFlag},
-                                       {&GameOptions::everythingBattleRoyale, GameMode::BattleRoyale},
-                                       {&GameOptions::everythingKotH, GameMode::KingOfTheHill},
-                                       {&GameOptions::everythingSnakeHunter, GameMode::SnakeHunter},
-                                       {&GameOptions::everythingDeathmatch, GameMode::Deathmatch}};
-    for (const Switch& on : switches) {
-        for (const Switch& each : switches) {
-            gameOptions.*each.field = each.field == on.field;
+    const ModeRound round(GameMode::Everything);
+    const std::vector<std::pair<bool GameOptions::*, GameMode>> switches{
+        {&GameOptions::everythingCTF, GameMode::CaptureTheFlag},
+        {&GameOptions::everythingBattleRoyale, GameMode::BattleRoyale},
+        {&GameOptions::everythingKotH, GameMode::KingOfTheHill},
+        {&GameOptions::everythingSnakeHunter, GameMode::SnakeHunter},
+        {&GameOptions::everythingDeathmatch, GameMode::Deathmatch}};
+    for (const auto& on : switches) {
+        for (const auto& [field, mode] : switches) {
+            gameOptions.*field = mode == on.second;
         }
-        for (const Switch& each : switches) {
-            EXPECT_EQ(isModeActive(each.mode), each.field == on.field);
+        for (const auto& [field, mode] : switches) {
+            EXPECT_EQ(isModeActive(mode), mode == on.second);
         }
     }
     EXPECT_FALSE(isModeActive(GameMode::Classic));
