@@ -8,40 +8,25 @@
 #include <thread>
 #include <vector>
 
-#include "arena/game.h"
-#include "arena/level_generation.h"
-#include "match/options/game_options.h"
-#include "players/player.h"
 #include "shell/frame_counter.h"
-#include "shell/log.h"
 #include "shell/switches.h"
 #include "shell/timing.h"
+#include "support/round_fixture.h"
 
 namespace vandrel {
 namespace {
+
+using Overlay = std::pair<std::string, int>;
 
 // A world whose clock ticks as the test says: each time the loop empties the event queue the next count of ticks has
 // come.
 class FrameLoopTest : public testing::Test {
   protected:
-    void SetUp() override {
-        setDebugOutput([](const char* /*line*/, std::size_t /*length*/) {});
-        gameOptions = GameOptions{};
-        gameOptions.auctionInterval = 0;
-        gameOptions.timeBeforeShrinkingFrames = 10'000;
-        gameOptions.gameMode = GameMode::Deathmatch;
-        players.clear();
-        teams.clear();
-        resizeArena({19, 11});
-        game_ = std::make_unique<Game>(PackagedReplayData{});
-        game_->shrinkCountdown = 10'000;
+    FrameLoopTest() {
         fastForward = false;
-        diagnostic = false;
-        advanceLimit = 0;
+        round_.game().shrinkCountdown = 10'000;
     }
-    void TearDown() override {
-        game_ = nullptr;
-        gameOptions = GameOptions{};
+    ~FrameLoopTest() override {
         fastForward = false;
         diagnostic = false;
         advanceLimit = 0;
@@ -79,39 +64,37 @@ class FrameLoopTest : public testing::Test {
 
     RoundEnding run(std::deque<int> ticks, ReplayTestOptions testOptions = {}) {
         ticks_ = std::move(ticks);
-        return FrameLoop(*game_, nullptr, testOptions, "", world()).run();
+        story_.clear();
+        return FrameLoop(round_.game(), nullptr, testOptions, "", world()).run();
     }
 
-    std::unique_ptr<Game> game_;
+    TestRound round_{{.mode = GameMode::Deathmatch}};
     std::deque<int> ticks_;
     std::string story_;
-    std::vector<std::pair<std::string, int>> overlay_;
+    std::vector<Overlay> overlay_;
     std::chrono::milliseconds updateTakes_{0};
     int toggleAtPass_ = -1;
     int pauseAtFrame_ = -1;
 };
 
-TEST_F(FrameLoopTest, PaintsAfterEachUpdateWhenTheMachineKeepsUp) {
-    EXPECT_TRUE(run({1, 0, 1, 0, 0, 1}).quit);
-    EXPECT_EQ(story_, "upupup");
-    EXPECT_EQ(frameCounter, 3);
-}
-
-TEST_F(FrameLoopTest, RunsTheTicksThatWaitBeforeItPaints) {
-    run({3, 0, 0});
-    EXPECT_EQ(story_, "uuup");
-}
-
-TEST_F(FrameLoopTest, NeverRunsMoreThanFourUpdatesBetweenPaintingsAndDropsTheRest) {
-    run({50, 0, 0, 0, 0, 0, 1});
-    EXPECT_EQ(story_, "uuuupup");
+TEST_F(FrameLoopTest, PaintsBehindTheUpdatesThatWaitAndDropsWhatIsMoreThanFour) {
+    struct Case {
+        const char* what;
+        std::deque<int> ticks;
+        const char* story;
+        int rendered;
+    };
+    for (const Case& c :
+         {Case{"the machine keeps up", {1, 0, 1, 0, 0, 1}, "upupup", 3}, Case{"ticks wait", {3, 0, 0}, "uuup", 1},
+          Case{"skipped paintings are counted anew", {2, 0, 9, 0, 0, 0, 0}, "uupuuuup", 2},
+          Case{"many ticks wait", {50, 0, 0, 0, 0, 0, 1}, "uuuupup", 2}}) {
+        SCOPED_TRACE(c.what);
+        EXPECT_TRUE(run(c.ticks).quit);
+        EXPECT_EQ(story_, c.story);
+        EXPECT_EQ(renderedFrames, c.rendered);
+        EXPECT_EQ(frameCounter, std::count(story_.begin(), story_.end(), 'u'));
+    }
     EXPECT_EQ(totalTicks, 51) << "dropped ticks still count for the frame rate";
-    EXPECT_EQ(renderedFrames, 2);
-}
-
-TEST_F(FrameLoopTest, CountsSkippedPaintingsAnewAfterEachPainting) {
-    run({2, 0, 9, 0, 0, 0, 0});
-    EXPECT_EQ(story_, "uupuuuup");
 }
 
 TEST_F(FrameLoopTest, FastForwardRunsWithoutTicksAndPaintsEachUpdate) {
@@ -119,7 +102,7 @@ TEST_F(FrameLoopTest, FastForwardRunsWithoutTicksAndPaintsEachUpdate) {
     run({0, 0, 0});
     EXPECT_EQ(story_.substr(0, 6), "upupup");
     ASSERT_FALSE(overlay_.empty());
-    EXPECT_EQ(overlay_.front(), std::make_pair(std::string(">>"), 0));
+    EXPECT_EQ(overlay_.front(), (Overlay{">>", 0}));
 }
 
 TEST_F(FrameLoopTest, F8TogglesFastForward) {
@@ -150,16 +133,6 @@ TEST_F(FrameLoopTest, PauseQuitsAtTheEndOfItsUpdate) {
     EXPECT_EQ(frameCounter, 3);
 }
 
-TEST_F(FrameLoopTest, EndsTwoHundredFortyUpdatesAfterTheRoundWasDecided) {
-    gameOptions.gameMode = GameMode::Classic;
-    gameOptions.numPlayers = 1;  // nobody is left to win against from the first update on
-    fastForward = true;
-    const RoundEnding ending = run(std::deque<int>(400, 0));
-    EXPECT_TRUE(ending.roundOver);
-    EXPECT_FALSE(ending.quit);
-    EXPECT_EQ(frameCounter, 241);
-}
-
 TEST_F(FrameLoopTest, DiagnosticModeShowsTimingsFrameAndShrinkCountdown) {
     diagnostic = true;
     fastForward = true;
@@ -167,12 +140,11 @@ TEST_F(FrameLoopTest, DiagnosticModeShowsTimingsFrameAndShrinkCountdown) {
     updateTakes_ = std::chrono::milliseconds(2);
     run({0, 0, 0});
     ASSERT_GE(overlay_.size(), 4U);
-    EXPECT_EQ(overlay_[0],
-              std::make_pair(std::string("Update: 0.0ms  Render1: 0.0ms  Render2: 0.0ms  Frame: 0.0ms"), 0))
+    EXPECT_EQ(overlay_[0], (Overlay{"Update: 0.0ms  Render1: 0.0ms  Render2: 0.0ms  Frame: 0.0ms", 0}))
         << "no frame was finished before the first, however long its own update took";
-    EXPECT_EQ(overlay_[1], std::make_pair(std::string("0"), 10));
-    EXPECT_EQ(overlay_[2], std::make_pair(std::string("9999"), 20));
-    EXPECT_EQ(overlay_[3], std::make_pair(std::string(">>"), 30));
+    EXPECT_EQ(overlay_[1], (Overlay{"0", 10}));
+    EXPECT_EQ(overlay_[2], (Overlay{"9999", 20}));
+    EXPECT_EQ(overlay_[3], (Overlay{">>", 30}));
 }
 
 }  // namespace

@@ -9,14 +9,13 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 
-struct TeamCase {
-    GameMode mode;
-    int numPlayers;
-    std::size_t colours;
-    int teamCount;
-};
-
 TEST(QuickStartTeams, AreCountedByModeAndPlayers) {
+    struct TeamCase {
+        GameMode mode;
+        int numPlayers;
+        std::size_t colours;
+        int teamCount;
+    };
     const GameOptions before = gameOptions;
     for (const TeamCase& c : std::vector<TeamCase>{{GameMode::BattleRoyale, 2, 10, 2},
                                                    {GameMode::BattleRoyale, 3, 10, 2},
@@ -81,15 +80,12 @@ TEST_F(MatchPlayersTest, GoToTheTeamsByTurns) {
     EXPECT_EQ(teamCount, 3U);
 }
 
-TEST_F(MatchPlayersTest, HaveNoTeamWhereEachFightsAlone) {
+TEST_F(MatchPlayersTest, HuntTogetherAndHaveNoTeamWhereEachFightsAlone) {
+    EXPECT_THAT(teamsOf(GameMode::SnakeHunter, 3), Each(0));
+    EXPECT_EQ(teamCount, 2U) << "the snakes of the computer are the other";
     EXPECT_THAT(teamsOf(GameMode::Deathmatch, 3), Each(-1));
     EXPECT_THAT(teamsOf(GameMode::Classic, 3), Each(-1));
     EXPECT_EQ(teamCount, 0U);
-}
-
-TEST_F(MatchPlayersTest, HuntTogetherAgainstTheSnakesOfTheComputer) {
-    EXPECT_THAT(teamsOf(GameMode::SnakeHunter, 3), Each(0));
-    EXPECT_EQ(teamCount, 2U);
 }
 
 TEST_F(MatchPlayersTest, ShareTheDevicesWhenThereAreFewer) {
@@ -130,9 +126,7 @@ TEST_F(MatchPlayersTest, DoNotPlayWhenTheLobbyIsLeft) {
 }
 
 TEST(SnakeHunterTeams, AreMadeAfreshFromWhatTheLobbyLeft) {
-    RoundSetup setup;
-    setup.mode = GameMode::SnakeHunter;
-    TestRound round(setup);
+    TestRound round({.mode = GameMode::SnakeHunter});
     for (int i = 0; i < 3; ++i) {
         round.addTeam({1, 5});
     }

@@ -53,6 +53,8 @@ struct ShownTable {
     std::string text;
 };
 
+using Wins = std::vector<int>;
+
 // A match on the smallest arena with nothing in it, two players, and nothing to be drawn by the automatic options.
 inline GameOptions bareMatchOptions() {
     GameOptions options;
@@ -110,6 +112,28 @@ class MatchStage : public testing::Test {
     std::function<bool()> joinPlayers;
     // The update of every round at which the window's close button is pressed.
     int closeAtUpdate = -1;
+
+    // Round after round of Classic in which these players die in the first update. What stood on the score table when
+    // each round began is kept. A match that should have ended and did not is quit. `besides` is called behind it in
+    // every update.
+    void letDie(const std::vector<std::vector<int>>& victims, const std::function<void(int round)>& besides = {}) {
+        onUpdate = [this, victims, besides](int round) {
+            if (frameCounter == 0) {
+                Wins& wins = winsAtStart.emplace_back();
+                for (const auto& player : players) {
+                    wins.push_back(player->wins);
+                }
+                closeAtUpdate = round < static_cast<int>(victims.size()) ? -1 : 1;
+                for (const int number : closeAtUpdate == 1 ? Wins{} : victims[static_cast<std::size_t>(round)]) {
+                    players.at(static_cast<std::size_t>(number))->die();
+                }
+            }
+            if (besides) {
+                besides(round);
+            }
+        };
+    }
+    std::vector<Wins> winsAtStart;
 
     bool play(bool record = false, const std::string& replayName = {}, ReplayTestOptions testOptions = {}) {
         return play_the_game(record, replayName, testOptions, world());

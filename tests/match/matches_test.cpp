@@ -1,11 +1,7 @@
-#include <fmt/format.h>
 #include <gmock/gmock.h>
-
-#include <map>
 
 #include "arena/sparks.h"
 #include "match/match_stage.h"
-#include "match/round_transitions.h"
 
 namespace vandrel {
 namespace {
@@ -13,38 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using Wins = std::vector<int>;
-
-Wins winsOfPlayers() {
-    Wins wins;
-    for (const auto& player : players) {
-        wins.push_back(player->wins);
-    }
-    return wins;
-}
-
-class MatchTest : public MatchStage {
-  protected:
-    // Round after round of Classic in which these players die in the first update. What stood on the score table when
-    // each round began is kept. A match that should have ended and did not is quit.
-    void letDie(std::vector<std::vector<int>> victims) {
-        onUpdate = [this, victims = std::move(victims)](int round) {
-            if (frameCounter != 0) {
-                return;
-            }
-            winsAtStart.push_back(winsOfPlayers());
-            if (round >= static_cast<int>(victims.size())) {
-                closeAtUpdate = 1;
-                return;
-            }
-            for (const int number : victims[static_cast<std::size_t>(round)]) {
-                players.at(static_cast<std::size_t>(number))->die();
-            }
-        };
-    }
-
-    std::vector<Wins> winsAtStart;
-};
+class MatchTest : public MatchStage {};
 
 TEST_F(MatchTest, GoesOnUntilSomebodyHasTheWinsNeeded) {
     gameOptions.winsNeeded = 2;
@@ -56,6 +21,7 @@ TEST_F(MatchTest, GoesOnUntilSomebodyHasTheWinsNeeded) {
     EXPECT_EQ(tables[2].after, (Wins{2, 1}));
     EXPECT_FALSE(tables[2].noWinner);
     EXPECT_THAT(tablesAtLootboxes, ElementsAre(3U)) << "once, behind the last table";
+    EXPECT_THAT((Wins{music.made, music.faded, music.stopped}), ElementsAre(3, 3, 3)) << "music of its own each round";
     EXPECT_EQ(timesLogged("New game\n"), 1);
     EXPECT_EQ(timesLogged("New round; randomness 0\n"), 3);
     EXPECT_EQ(timesLogged("Round over\n"), 3);
@@ -92,37 +58,29 @@ TEST_F(MatchTest, SharedWinsEndTheMatchTogetherAndATieOfAllIsADraw) {
     gameOptions.quickStartPlayers = 2;
     gameOptions.winsNeeded = 2;
     const std::vector<std::vector<int>> kills{{3, 3, 1}, {2, 2, 2}, {0, 0, -1}};
-    onUpdate = [&](int round) {
-        if (frameCounter == 0) {
-            winsAtStart.push_back(winsOfPlayers());
-            for (std::size_t i = 0; i < players.size(); ++i) {
-                EXPECT_EQ(players[i]->kills, 0) << "kills last one round";
-                players[i]->kills = kills.at(static_cast<std::size_t>(round))[i];
-            }
-            Game::current()->shrinkState = ShrinkState::Finished;
+    letDie({{}, {}, {}}, [&](int round) {
+        for (std::size_t i = 0; i < players.size() && frameCounter == 0; ++i) {
+            EXPECT_EQ(players[i]->kills, 0) << "kills last one round";
+            players[i]->kills = kills.at(static_cast<std::size_t>(round))[i];
         }
-    };
+        Game::current()->shrinkState = ShrinkState::Finished;
+    });
     EXPECT_FALSE(play());
     EXPECT_THAT(winsAtStart, ElementsAre(Wins{0, 0, 0}, Wins{1, 1, 0}, Wins{1, 1, 0}));
 }
 
 TEST_F(MatchTest, TheWinnerIsTakenWhenTheLastUpdateIsOver) {
-    letDie({{1}, {0}});
-    const auto firstDeath = onUpdate;
-    onUpdate = [&](int round) {
-        firstDeath(round);
+    letDie({{1}, {0}}, [](int round) {
         if (round == 0 && frameCounter == 240) {
             players[0]->die();  // the round was decided, its end not yet reached
         }
-    };
+    });
     EXPECT_FALSE(play());
     EXPECT_THAT(winsAtStart, ElementsAre(Wins{0, 0}, Wins{0, 0}));
 }
 
 TEST_F(MatchTest, QuittingLeavesTheMatchWithoutScoring) {
-    gameOptions.winsNeeded = 1;
-    letDie({{1}});
-    closeAtUpdate = 30;
+    letDie({{1}}, [this](int /*round*/) { closeAtUpdate = 30; });
     EXPECT_TRUE(play());
     EXPECT_EQ(timesLogged("Quit\n"), 1);
     EXPECT_EQ(timesLogged("Round over\n"), 0);
@@ -130,13 +88,6 @@ TEST_F(MatchTest, QuittingLeavesTheMatchWithoutScoring) {
     EXPECT_THAT(tablesAtLootboxes, IsEmpty());
     EXPECT_EQ(rounds(), 1);
     EXPECT_EQ(timesLogged("Game ended\n"), 1);
-}
-
-TEST_F(MatchTest, AnAdvanceLimitOfOneQuitsTheMatchAfterOneUpdate) {
-    advanceLimit = 1;
-    EXPECT_TRUE(play());
-    EXPECT_EQ(frameCounter, 1);
-    EXPECT_EQ(timesLogged("Quit\n"), 1);
 }
 
 TEST_F(MatchTest, PutsBackTheOptionsAndTheUpdateRate) {
@@ -185,39 +136,33 @@ TEST_F(MatchTest, ASecondMatchStartsClean) {
 
 TEST_F(MatchTest, PlayersKeepWhatIsTheirsFromRoundToRound) {
     gameOptions.winsNeeded = 2;
-    letDie({{1}, {1}});
-    const auto deaths = onUpdate;
-    std::vector<const Player*> first;
-    onUpdate = [&](int round) {
-        deaths(round);
+    std::vector<std::shared_ptr<Player>> first;
+    letDie({{1}, {1}}, [&](int round) {
         if (frameCounter == 0 && round == 0) {
             players[0]->cash = 7;
             players[0]->maxBombs = 6;
-            first = {players[0].get(), players[1].get()};
+            first = players;
         } else if (frameCounter == 0) {
-            EXPECT_THAT((std::vector<const Player*>{players[0].get(), players[1].get()}), first);
+            EXPECT_EQ(players, first);
             EXPECT_EQ(players[0]->cash, 7);
             EXPECT_EQ(players[0]->maxBombs, 1);
         }
-    };
+    });
     EXPECT_FALSE(play());
 }
 
 TEST_F(MatchTest, EveryRoundDrawsItsOwnOptionsAndStartsWithoutSparks) {
     gameOptions.winsNeeded = 3;
     gameOptions.auctions = 2;
-    letDie({{1}, {1}, {1}});
-    const auto deaths = onUpdate;
     std::vector<int> intervals;
-    onUpdate = [&](int round) {
-        deaths(round);
+    letDie({{1}, {1}, {1}}, [&](int /*round*/) {
         if (frameCounter == 0) {
             intervals.push_back(gameOptions.auctionInterval.value());
             EXPECT_THAT(sparks, IsEmpty());
         } else if (frameCounter == 200) {
             addSparks({100, 100});
         }
-    };
+    });
     std::mt19937 expected = globalGenerator;
     EXPECT_FALSE(play());
     for (const int interval : intervals) {
@@ -227,24 +172,10 @@ TEST_F(MatchTest, EveryRoundDrawsItsOwnOptionsAndStartsWithoutSparks) {
 }
 
 TEST_F(MatchTest, TheReplayTestRunsFastForwardWhateverTheSwitchSays) {
-    letDie({{1}});
-    const auto deaths = onUpdate;
-    onUpdate = [&](int round) {
-        deaths(round);
-        EXPECT_TRUE(fastForward);
-    };
+    letDie({{1}}, [](int /*round*/) { EXPECT_TRUE(fastForward); });
     EXPECT_FALSE(play(false, "", {.fastForward = true, .skipRoundEnd = false}));
     EXPECT_FALSE(fastForward);
     EXPECT_EQ(renderedFrames, 4) << "of 241 updates";
-}
-
-TEST_F(MatchTest, EveryRoundHasMusicThatFadesAtItsEndAndIsStopped) {
-    gameOptions.winsNeeded = 2;
-    letDie({{1}, {1}});
-    play();
-    EXPECT_EQ(music.made, 2);
-    EXPECT_EQ(music.faded, 2);
-    EXPECT_EQ(music.stopped, 2);
 }
 
 TEST_F(MatchTest, PlaysWithoutMusicToo) {
@@ -292,148 +223,6 @@ TEST_F(MatchTest, ACrowdThatFindsNoRoomEndsTheMatchWithAMessage) {
     letDie({{1}});
     EXPECT_FALSE(play()) << "the next match finds nothing in its way";
     EXPECT_EQ(winsAtStart.front(), (Wins{0, 0}));
-}
-
-struct Rise {
-    int increase;
-    int start;
-};
-
-// Nothing else draws from the global generator here, so its sequence tells when a match drew.
-class RandomnessTest : public MatchTest, public testing::WithParamInterface<Rise> {};
-
-TEST_P(RandomnessTest, RisesBetweenRoundsByOneDrawEachWhileBelowTwo) {
-    constexpr int roundCount = 12;
-    static std::vector<int> pitches;
-    pitches.clear();
-    setSamplePlayer([](SampleIds id, int /*volume*/, int /*pan*/, int speed) {
-        if (id == SampleIds::Splurge) {
-            pitches.push_back(speed);
-        }
-    });
-    gameOptions.randomnessIncrease = GetParam().increase;
-    gameOptions.randomness = GetParam().start;
-    gameOptions.winsNeeded = roundCount;
-    letDie(std::vector<std::vector<int>>(roundCount, {1}));
-    globalGenerator.seed(5489);
-    std::mt19937 expectedGenerator = globalGenerator;
-    EXPECT_FALSE(play());
-
-    std::vector<int> atStart;  // a rise is seen by the options of the round after the one it is shown before
-    std::vector<int> shown;
-    std::vector<int> expectedPitches;
-    int randomness = GetParam().start;
-    for (int round = 0; round < roundCount; ++round) {
-        atStart.push_back(randomness);
-        if (round == 0 || GetParam().increase == 0 || randomness >= 2) {
-            continue;
-        }
-        if (canonicalFloat(expectedGenerator) * static_cast<float>(GetParam().increase) > 0.8f) {
-            ++randomness;
-            shown.push_back(randomness);
-            expectedPitches.push_back(randomness == 1 ? 400 : 700);
-        }
-    }
-    EXPECT_EQ(globalGenerator, expectedGenerator);
-    EXPECT_EQ(shownRandomness, shown);
-    EXPECT_EQ(pitches, expectedPitches);
-    std::vector<std::string> heads;
-    std::copy_if(logLines().begin(), logLines().end(), std::back_inserter(heads),
-                 [](const std::string& line) { return line.starts_with("New round"); });
-    ASSERT_EQ(heads.size(), atStart.size());
-    for (std::size_t round = 0; round < heads.size(); ++round) {
-        EXPECT_EQ(heads[round], fmt::format("New round; randomness {}\n", atStart[round])) << "round " << round;
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Options, RandomnessTest,
-                         testing::Values(Rise{0, 0}, Rise{1, 0}, Rise{2, 0}, Rise{2, 1}, Rise{2, 2}),
-                         [](const auto& test) {
-                             return fmt::format("By{}From{}", test.param.increase, test.param.start);
-                         });
-
-TEST(Randomness, RisesOnceInFiveRoundsOrThreeInFive) {
-    for (const auto& [increase, share] : std::map<int, double>{{1, 0.2}, {2, 0.6}}) {
-        TestRound round;
-        gameOptions.randomnessIncrease = increase;
-        constexpr int draws = 10'000;
-        int shown = 0;
-        for (int i = 0; i < draws; ++i) {
-            incrementRandomness(round.game(), [&](Game& /*game*/) { ++shown; });
-        }
-        EXPECT_EQ(gameOptions.randomness, shown);
-        EXPECT_NEAR(static_cast<double>(shown) / draws, share, 0.02);
-    }
-}
-
-TEST(FinishRound, BringsEverybodyBackForTheTableAndSendsTheSnakesAwayBehindIt) {
-    for (const GameMode mode : {GameMode::SnakeHunter, GameMode::Everything}) {
-        RoundSetup setup;
-        setup.mode = mode;
-        TestRound round(setup);
-        round.addTeam({1, 5});
-        round.addTeam({13, 5});
-        const auto human = round.addPlayer({3, 5}, 0);
-        const auto snake = round.addSnake({9, 5}, Facing::Right, 4, true);
-        teams[1].members.push_back(snake);
-        human->dead = true;
-        human->remoteActive = true;
-        human->crawling = true;
-        gameOptions.winsNeeded = 1;
-        int shown = 0;
-        const auto trophyRoom = [&](const std::vector<ScoringEntity>& entities, bool noWinner, const std::string&) {
-            ++shown;
-            EXPECT_EQ(noWinner, mode != GameMode::SnakeHunter);
-            EXPECT_THAT(entities.back().players, ElementsAre(snake));
-            EXPECT_THAT(players, ElementsAre(human, snake));
-            EXPECT_FALSE(human->dead);
-            EXPECT_FALSE(human->remoteActive);
-            EXPECT_EQ(human->crawling, mode != GameMode::Everything);
-        };
-        int counted = 0;
-        const auto lootboxRoom = [&] {
-            ++counted;
-            EXPECT_THAT(players, ElementsAre(human));
-        };
-        const bool snakesWin = mode == GameMode::SnakeHunter;
-        EXPECT_EQ(finishRound(round.game(), "", {trophyRoom, lootboxRoom}), snakesWin) << "in their own mode";
-        EXPECT_EQ(shown, 1);
-        EXPECT_EQ(counted, snakesWin ? 1 : 0);
-        EXPECT_THAT(players, ElementsAre(human));
-        EXPECT_EQ(teams[1].members.size(), mode == GameMode::SnakeHunter ? 0U : 1U);
-    }
-}
-
-TEST(ScoreTable, HoldsAllTeamsOrAllPlayersInTheirOrder) {
-    TestRound round;
-    round.addTeam({1, 5});
-    round.addTeam({13, 5});
-    const auto left = round.addPlayer({3, 5}, 0);
-    const auto right = round.addPlayer({5, 5}, 1);
-    const auto second = round.addPlayer({7, 5}, 1);
-    teams[0].wins = 4;
-    teams[1].colour = {0.0f, 0.0f, 1.0f, 1.0f};
-    right->wins = 2;
-
-    const auto byTeam = scoreRound(TeamWinners{{1}});
-    ASSERT_EQ(byTeam.size(), 2U);
-    EXPECT_EQ(byTeam[0].previousScore, 4);
-    EXPECT_EQ(byTeam[0].score, 4);
-    EXPECT_THAT(byTeam[0].players, ElementsAre(left));
-    EXPECT_EQ(byTeam[1].previousScore, 0);
-    EXPECT_EQ(byTeam[1].score, 1);
-    EXPECT_THAT(byTeam[1].players, ElementsAre(right, second));
-    EXPECT_EQ(byTeam[1].teamColour.value().b, 1.0f);
-    EXPECT_EQ(teams[1].wins, 1);
-
-    const auto byPlayer = scoreRound(PlayerWinners{{right}});
-    ASSERT_EQ(byPlayer.size(), 3U);
-    EXPECT_EQ(byPlayer[1].previousScore, 2);
-    EXPECT_EQ(byPlayer[1].score, 3);
-    EXPECT_THAT(byPlayer[1].players, ElementsAre(right));
-    EXPECT_FALSE(byPlayer[1].teamColour.has_value());
-    EXPECT_EQ(byPlayer[2].score, 0);
-    EXPECT_EQ(right->wins, 3);
 }
 
 }  // namespace

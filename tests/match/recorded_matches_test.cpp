@@ -71,11 +71,7 @@ class RecordedMatchTest : public MatchStage {
 
 TEST_F(RecordedMatchTest, KeepsAReplayAndItsProofOfEveryRound) {
     gameOptions.winsNeeded = 2;
-    onUpdate = [](int /*round*/) {
-        if (frameCounter == 10) {
-            players[1]->die();
-        }
-    };
+    letDie({{1}, {1}});
     EXPECT_FALSE(play(true));
     const auto replays = getAllReplays(true);
     ASSERT_EQ(replays.size(), 2U);
@@ -107,16 +103,13 @@ TEST_F(RecordedMatchTest, FinishesTheFilesOfARoundThatWasQuit) {
     EXPECT_EQ(frameCounter, 52) << "the update that meets the mark still runs";
 }
 
-TEST_F(RecordedMatchTest, WritesNothingWithRecordingOff) {
-    onUpdate = [](int /*round*/) { players.at(1)->dead = true; };
+TEST_F(RecordedMatchTest, WritesNothingWithRecordingOffAndNoProofWithVerificationOff) {
+    letDie({{1}});
     EXPECT_FALSE(play(false));
     EXPECT_THAT(replayFiles(), IsEmpty());
-}
-
-TEST_F(RecordedMatchTest, WritesNoProofWithVerificationOff) {
     verifyEnabled = false;
-    closeAtUpdate = 5;
-    play(true);
+    logLines().clear();
+    EXPECT_FALSE(play(true));
     EXPECT_EQ(replayFiles().size(), 1U);
 }
 
@@ -177,12 +170,8 @@ TEST_F(RecordedMatchTest, AFileThatIsNoReplayIsAFailureThatTheCallerSees) {
     const std::string path = folder.path + "/none.replay";
     test::writeFile(path, "no");
     EXPECT_THROW(play(true, path), std::ios_base::failure);
-    try {
-        play(true, folder.path + "/missing.replay");
-        FAIL();
-    } catch (const std::runtime_error& failure) {
-        EXPECT_STREQ(failure.what(), "File not open for reading");
-    }
+    EXPECT_THAT([&] { play(true, folder.path + "/missing.replay"); },
+                testing::ThrowsMessage<std::runtime_error>("File not open for reading"));
 }
 
 }  // namespace
