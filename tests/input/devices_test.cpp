@@ -1,6 +1,6 @@
 // Devices that come and go: the list of the manager, what it logs, and what a player of a running round has of it.
 #include <fmt/format.h>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cstdint>
 #include <memory>
@@ -132,12 +132,8 @@ TEST_F(DevicesTest, KeyboardsTakeTheirPlaceWhenPadsThatLeftThemNoneArePulledAtOn
 
 TEST_F(DevicesTest, APlatformWithoutJoysticksEndsTheStart) {
     driver->installs = false;
-    try {
-        const ControlsManager manager(driver);
-        FAIL();
-    } catch (const std::runtime_error& failure) {
-        EXPECT_STREQ(failure.what(), "al_install_joystick failed");
-    }
+    EXPECT_THAT([&] { const ControlsManager manager(driver); },
+                testing::ThrowsMessage<std::runtime_error>("al_install_joystick failed"));
 }
 
 // The pad's player walks right along the free row, another one goes on whatever happens to the pad.

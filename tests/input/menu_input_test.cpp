@@ -14,29 +14,10 @@
 #include "input/keyboard_controls.h"
 #include "shell/switches.h"
 #include "support/key_latches.h"
+#include "support/round_fixture.h"
 
 namespace vandrel::test {
 namespace {
-
-// A controller whose buttons the test presses, by the names of ControlInput.
-class TestController final : public Controls {
-  public:
-    bool isConnected() const override { return true; }
-    bool upPressed() const override { return has(ControlInput::Up); }
-    bool downPressed() const override { return has(ControlInput::Down); }
-    bool leftPressed() const override { return has(ControlInput::Left); }
-    bool rightPressed() const override { return has(ControlInput::Right); }
-    bool bombPressed() const override { return has(ControlInput::Fire); }
-    bool button2Pressed() const override { return has(ControlInput::Button2); }
-    bool pausePressed() const override { return has(ControlInput::Pause); }
-    std::string description() const override { return "test"; }
-    std::string buttonText(ControlInput /*input*/) const override { return "test"; }
-
-    std::set<ControlInput> held;
-
-  private:
-    bool has(ControlInput input) const { return held.contains(input); }
-};
 
 class InputTest : public testing::Test {
   protected:
@@ -54,8 +35,8 @@ class InputTest : public testing::Test {
         menuControlMode = MenuControlMode::KeyboardAndAnyController;
     }
 
-    std::shared_ptr<TestController> addController() {
-        auto controller = std::make_shared<TestController>();
+    std::shared_ptr<ScriptedControls> addController() {
+        auto controller = std::make_shared<ScriptedControls>();
         theControlsManager->devices.push_back(controller);
         return controller;
     }
@@ -92,13 +73,10 @@ TEST_F(InputTest, TheFourKeySetsAnswerForTheirKeysOnly) {
         EXPECT_TRUE(device->isConnected());
         EXPECT_EQ(device->debugName(), "?");
     }
-}
-
-TEST_F(InputTest, ScansAfterTheFirstLeaveTheKeyboardsAlone) {
     const DeviceList before = theControlsManager->devices;
     EXPECT_FALSE(theControlsManager->rescan());
     EXPECT_FALSE(theControlsManager->poll());
-    EXPECT_EQ(theControlsManager->devices, before);
+    EXPECT_EQ(theControlsManager->devices, before) << "scans after the first leave the keyboards alone";
 }
 
 TEST_F(InputTest, InertDevicesAnswerNothing) {
@@ -124,17 +102,9 @@ TEST_F(InputTest, MenuDevicesByModeAndHolder) {
         bool includeHeld;
         DeviceList expected;
     };
-    const Case cases[] = {
-        {0, false, {}},
-        {0, true, {}},
-        {1, false, {first}},
-        {1, true, {first, second}},
-        {2, false, {first, second}},
-        {2, true, {first, second}},
-        {3, true, {}},
-        {-1, true, {}},
-    };
-    for (const Case& c : cases) {
+    for (const Case& c :
+         {Case{0, false, {}}, Case{0, true, {}}, Case{1, false, {first}}, Case{1, true, {first, second}},
+          Case{2, false, {first, second}}, Case{2, true, {first, second}}, Case{3, true, {}}, Case{-1, true, {}}}) {
         EXPECT_EQ(theControlsManager->menuDevices(c.mode, c.includeHeld), c.expected) << c.mode << c.includeHeld;
     }
     theControlsManager->listHolders = [] {
@@ -154,15 +124,19 @@ TEST_F(InputTest, MenuDevicesByModeAndHolder) {
 TEST_F(InputTest, AControllerStandsForKeysAndDirections) {
     const auto controller = addController();
     struct Case {
-        ControlInput button;
+        const char* what;
+        HeldKeys held;
         std::set<int> keyDown, keyDownWithPause, direction;
     };
     const std::set<int> confirm{ALLEGRO_KEY_ENTER, ALLEGRO_KEY_SPACE, ALLEGRO_KEY_Y};
     const Case cases[] = {
-        {ControlInput::Fire, confirm, confirm, {}},          {ControlInput::Button2, {ALLEGRO_KEY_ESCAPE}, {}, {}},
-        {ControlInput::Pause, {}, {ALLEGRO_KEY_ESCAPE}, {}}, {ControlInput::Left, {}, {}, {ALLEGRO_KEY_LEFT}},
-        {ControlInput::Right, {}, {}, {ALLEGRO_KEY_RIGHT}},  {ControlInput::Up, {}, {}, {ALLEGRO_KEY_UP}},
-        {ControlInput::Down, {}, {}, {ALLEGRO_KEY_DOWN}},
+        {"fire", {.fire = true}, confirm, confirm, {}},
+        {"button 2", {.button2 = true}, {ALLEGRO_KEY_ESCAPE}, {}, {}},
+        {"pause", {.pause = true}, {}, {ALLEGRO_KEY_ESCAPE}, {}},
+        {"left", {.left = true}, {}, {}, {ALLEGRO_KEY_LEFT}},
+        {"right", {.right = true}, {}, {}, {ALLEGRO_KEY_RIGHT}},
+        {"up", {.up = true}, {}, {}, {ALLEGRO_KEY_UP}},
+        {"down", {.down = true}, {}, {}, {ALLEGRO_KEY_DOWN}},
     };
     const auto answering = [](const std::function<bool(int)>& query) {
         std::set<int> found;
@@ -174,15 +148,15 @@ TEST_F(InputTest, AControllerStandsForKeysAndDirections) {
         return found;
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(static_cast<int>(c.button));
-        controller->held = {c.button};
+        SCOPED_TRACE(c.what);
+        controller->held = c.held;
         EXPECT_EQ(answering([](int key) { return menuKeyDown(key, anyController, false, false); }), c.keyDown);
         EXPECT_EQ(answering([](int key) { return menuKeyDown(key, anyController, false, true); }), c.keyDownWithPause);
         EXPECT_EQ(answering([](int key) { return menuDirectionDown(key, anyController, false); }), c.direction);
         EXPECT_TRUE(answering([](int key) { return menuKeyDown(key, 0, true, false); }).empty()) << "keyboard only";
         EXPECT_TRUE(answering([](int key) { return menuDirectionDown(key, 0, true); }).empty());
     }
-    controller->held.clear();
+    controller->held = {};
     keys = {ALLEGRO_KEY_LEFT, ALLEGRO_KEY_B};
     EXPECT_EQ(answering([](int key) { return menuKeyDown(key, 0, false, false); }), keys);
     EXPECT_EQ(answering([](int key) { return menuDirectionDown(key, 0, false); }), keys);
@@ -196,15 +170,15 @@ TEST_F(InputTest, APressRisesOnceAndIsRememberedOverScreens) {
     EXPECT_FALSE(pressed(ALLEGRO_KEY_ENTER));
     EXPECT_FALSE(pressed(ALLEGRO_KEY_SPACE)) << "its own latch, and not down";
     keys.clear();
-    controller->held = {ControlInput::Fire};
+    controller->held = {.fire = true};
     EXPECT_FALSE(pressed(ALLEGRO_KEY_ENTER)) << "never seen up: the device takes over from the key";
     EXPECT_TRUE(pressed(ALLEGRO_KEY_SPACE)) << "one press answers for each of its keys";
     EXPECT_TRUE(pressed(ALLEGRO_KEY_Y));
-    controller->held.clear();
+    controller->held = {};
     EXPECT_FALSE(pressed(ALLEGRO_KEY_ENTER));
-    controller->held = {ControlInput::Fire};
+    controller->held = {.fire = true};
     EXPECT_TRUE(pressed(ALLEGRO_KEY_ENTER));
-    controller->held.clear();
+    controller->held = {};
     keys = {ALLEGRO_KEY_SPACE};
     EXPECT_FALSE(pressed(ALLEGRO_KEY_SPACE)) << "the latch changes only when it is asked";
 }
@@ -243,22 +217,19 @@ TEST_F(InputTest, PauseIsEscapeOrAnAdmittedPauseButton) {
         return secondPlays ? std::vector<DeviceHolder>{{0, second}} : std::vector<DeviceHolder>{};
     };
     EXPECT_FALSE(pauseCheck());
-    keys = {ALLEGRO_KEY_ESCAPE};
     for (const int mode : {0, 1, 2}) {
         menuControlMode = mode;
+        keys = {ALLEGRO_KEY_ESCAPE};
+        second->held = {};
         EXPECT_TRUE(pauseCheck()) << mode;
-    }
-    keys.clear();
-    second->held = {ControlInput::Pause};
-    const bool expected[] = {false, true, true};
-    for (const int mode : {0, 1, 2}) {
-        menuControlMode = mode;
-        EXPECT_EQ(pauseCheck(), expected[mode]) << mode;
+        keys.clear();
+        second->held = {.pause = true};
+        EXPECT_EQ(pauseCheck(), mode != 0) << mode;
     }
     menuControlMode = 1;
     secondPlays = false;
     EXPECT_FALSE(pauseCheck());
-    first->held = {ControlInput::Pause};
+    first->held = {.pause = true};
     EXPECT_TRUE(pauseCheck());
 }
 

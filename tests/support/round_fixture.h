@@ -32,6 +32,7 @@ struct HeldKeys {
     bool skin = false;
     bool colour = false;
     bool connected = true;
+    bool pause = false;
 };
 
 // A device that answers what the test holds.
@@ -44,7 +45,7 @@ class ScriptedControls final : public Controls {
     bool rightPressed() const override { return held.right; }
     bool bombPressed() const override { return held.fire; }
     bool button2Pressed() const override { return held.button2; }
-    bool pausePressed() const override { return false; }
+    bool pausePressed() const override { return held.pause; }
     bool skinPressed() const override { return held.skin; }
     bool colourPressed() const override { return held.colour; }
     std::string description() const override { return "Scripted"; }
