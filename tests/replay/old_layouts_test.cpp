@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
+#include <vector>
 
 #include "arena/arena.h"
 #include "base/version.h"
@@ -135,20 +137,23 @@ class OldWriter {
 
 class OldLayouts : public testing::TestWithParam<OldRound> {
   protected:
-    void SetUp() override {
+    OldLayouts() {
         setDebugOutput(nullptr);
-        path_ = folder_.file("1.replay");
-        bytes_ = OldWriter(GetParam()).write();
         writeFile(path_, bytes_);
     }
 
     ScratchFolder folder_;
-    std::string path_;
-    std::string bytes_;
+    const std::string path_ = folder_.file("1.replay");
+    const std::string bytes_ = OldWriter(GetParam()).write();
 };
 
 TEST_P(OldLayouts, playsToItsEndMark) {
     HeadlessPlayback playback(path_);
+    const bool inTeams = GetParam().mode == GameMode::CaptureTheFlag && GetParam().version >= 4;
+    ASSERT_EQ(players.size(), 2U);
+    EXPECT_EQ(players[0]->team, inTeams ? 0 : -1);
+    EXPECT_EQ(players[1]->team, inTeams ? 1 : -1);
+    EXPECT_TRUE(!inTeams || (teams.size() == 2 && teams[1].members.size() == 1));
     while (playback.step()) {
     }
     EXPECT_EQ(playback.end(), PlaybackEnd::EndMark);
@@ -158,47 +163,40 @@ TEST_P(OldLayouts, playsToItsEndMark) {
 }
 
 TEST_P(OldLayouts, givesStoredFieldsTheirValueAndOthersWhatTheirTimeImplied) {
-    const int version = GetParam().version;
-    const auto expectField = [&](int since, int actual, int stored, int absent, const char* name) {
-        EXPECT_EQ(actual, version >= since ? stored : absent) << name;
-    };
     const HeadlessPlayback playback(path_);
-    EXPECT_EQ(playback.version(), version);
-    expectField(v(97, 1), gameOptions.updaterate, 120, 60, "updaterate");
-    expectField(v(95, 24), gameOptions.speedCap, 5, 8, "speedCap");
-    expectField(v(95, 25), gameOptions.shrinkStyleResolved.value(), 2, 1, "shrinkStyleResolved");
-    expectField(5, gameOptions.timeBeforeShrinkingFrames.value(), 888, 777, "timeBeforeShrinkingFrames");
-    expectField(1, static_cast<int>(gameOptions.gameMode), static_cast<int>(GetParam().mode), 0, "gameMode");
-    expectField(7, gameOptions.singleFlag, 0, 1, "singleFlag");
-    expectField(replayVersion(1, 0, 9), gameOptions.everythingDeathmatch, 1, 0, "everythingDeathmatch");
-    expectField(replayVersion(1, 0, 9), gameOptions.flagCapturePoints, 6, 1, "flagCapturePoints");
-    expectField(v(95, 13), gameOptions.snakesAtOnce, 2, -999, "snakesAtOnce");
-    expectField(v(95, 22), gameOptions.snakeHunterRespawn, 1, 0, "snakeHunterRespawn");
-    expectField(v(95, 23), gameOptions.snakeSpeed, 4, 3, "snakeSpeed");
-    expectField(v(96, 5), gameOptions.bombPowerupResetsBombType, 1, 0, "bombPowerupResetsBombType");
-    expectField(v(96, 7), gameOptions.respawnWallsResolved.stopAt, 30, 0, "stopAt");
-    expectField(v(96, 12), gameOptions.respawnTime, 7, 10, "respawnTime");
-    expectField(v(97, 5), gameOptions.minorStunEnabled, 1, 0, "minorStunEnabled");
-    expectField(v(97, 6), gameOptions.snakeStartLength, 9, 4, "snakeStartLength");
-    expectField(v(97, 8), gameOptions.minorStunTime, 110, 180, "minorStunTime");
-    expectField(v(97, 12), gameOptions.frameMultiplier, 2, 1, "frameMultiplier");
-    expectField(2, static_cast<int>(reaches.flag), 13, 8, "flag reach");
-    expectField(v(95, 8), playback.game().shrinkAllowed, 0, 1, "shrinkAllowed");
-    expectField(replayVersion(1, 0, 2), players.at(1)->cash, 40, 0, "cash");
-    expectField(5, players.at(0)->x, 32, 0, "player x");
+    EXPECT_EQ(playback.version(), GetParam().version);
     EXPECT_EQ(gameOptions.initialSpeed, 3);
-}
-
-TEST_P(OldLayouts, findsTheTeams) {
-    const HeadlessPlayback playback(path_);
-    const bool inTeams = GetParam().mode == GameMode::CaptureTheFlag && GetParam().version >= 4;
-    ASSERT_EQ(players.size(), 2U);
-    for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(players[static_cast<std::size_t>(i)]->team, inTeams ? i : -1);
-    }
-    if (inTeams) {
-        ASSERT_EQ(teams.size(), 2U);
-        EXPECT_EQ(teams[1].members.size(), 1U);
+    struct Field {
+        const char* name;
+        int since;
+        int stored;
+        int absent;
+        int actual;
+    };
+    const GameOptions& o = gameOptions;
+    for (const Field& field : {Field{"updaterate", v(97, 1), 120, 60, o.updaterate},
+                               Field{"speedCap", v(95, 24), 5, 8, o.speedCap},
+                               Field{"shrinkStyleResolved", v(95, 25), 2, 1, o.shrinkStyleResolved.value()},
+                               Field{"timeBeforeShrinkingFrames", 5, 888, 777, o.timeBeforeShrinkingFrames.value()},
+                               Field{"gameMode", 1, static_cast<int>(GetParam().mode), 0, static_cast<int>(o.gameMode)},
+                               Field{"singleFlag", 7, 0, 1, o.singleFlag},
+                               Field{"everythingDeathmatch", replayVersion(1, 0, 9), 1, 0, o.everythingDeathmatch},
+                               Field{"flagCapturePoints", replayVersion(1, 0, 9), 6, 1, o.flagCapturePoints},
+                               Field{"snakesAtOnce", v(95, 13), 2, -999, o.snakesAtOnce},
+                               Field{"snakeHunterRespawn", v(95, 22), 1, 0, o.snakeHunterRespawn},
+                               Field{"snakeSpeed", v(95, 23), 4, 3, o.snakeSpeed},
+                               Field{"bombPowerupResetsBombType", v(96, 5), 1, 0, o.bombPowerupResetsBombType},
+                               Field{"stopAt", v(96, 7), 30, 0, o.respawnWallsResolved.stopAt},
+                               Field{"respawnTime", v(96, 12), 7, 10, o.respawnTime},
+                               Field{"minorStunEnabled", v(97, 5), 1, 0, o.minorStunEnabled},
+                               Field{"snakeStartLength", v(97, 6), 9, 4, o.snakeStartLength},
+                               Field{"minorStunTime", v(97, 8), 110, 180, o.minorStunTime},
+                               Field{"frameMultiplier", v(97, 12), 2, 1, o.frameMultiplier},
+                               Field{"flag reach", 2, 13, 8, static_cast<int>(reaches.flag)},
+                               Field{"shrinkAllowed", v(95, 8), 0, 1, playback.game().shrinkAllowed},
+                               Field{"cash", replayVersion(1, 0, 2), 40, 0, players.at(1)->cash},
+                               Field{"player x", 5, 32, 0, players.at(0)->x}}) {
+        EXPECT_EQ(field.actual, GetParam().version >= field.since ? field.stored : field.absent) << field.name;
     }
 }
 
@@ -219,51 +217,27 @@ TEST_P(CutShort, endsEarlyAtEveryByte) {
     }
 }
 
+// The releases that changed what stands in the file or what is implied by its absence, and the newest.
 std::vector<OldRound> everyLayout() {
     std::vector<OldRound> rounds;
-    for (const int version : {0,
-                              1,
-                              2,
-                              3,
-                              4,
-                              5,
-                              6,
-                              7,
-                              8,
-                              9,
-                              10,
-                              v(95, 4),
-                              v(95, 5),
-                              v(95, 6),
-                              v(95, 7),
-                              v(95, 8),
-                              v(95, 10),
-                              v(95, 11),
-                              v(95, 12),
-                              v(95, 13),
-                              v(95, 19),
-                              v(95, 22),
-                              v(95, 23),
-                              v(95, 24),
-                              v(95, 25),
-                              v(96, 5),
-                              v(96, 7),
-                              v(96, 12),
-                              v(97, 1),
-                              v(97, 5),
-                              v(97, 6),
-                              v(97, 8),
-                              v(97, 12),
-                              replayVersion(1, 0, 2),
-                              replayVersion(1, 0, 9),
-                              replayVersion(1, 0, 10),
-                              replayVersion(1, 0, 12),
-                              replayOutputVersion}) {
+    const auto add = [&](int version) {
         rounds.push_back({version});
         if (version >= 4) {
             rounds.push_back({version, GameMode::CaptureTheFlag});
         }
+    };
+    const std::vector<std::tuple<int, int, std::vector<int>>> patchesOf{
+        {0, 0, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}},
+        {0, 95, {4, 5, 6, 7, 8, 10, 11, 12, 13, 19, 22, 23, 24, 25}},
+        {0, 96, {5, 7, 12}},
+        {0, 97, {1, 5, 6, 8, 12}},
+        {1, 0, {2, 9, 10, 12}}};
+    for (const auto& [major, minor, patches] : patchesOf) {
+        for (const int patch : patches) {
+            add(replayVersion(major, minor, patch));
+        }
     }
+    add(replayOutputVersion);
     return rounds;
 }
 
