@@ -45,7 +45,7 @@ def half_closed(picture):
 Moment = namedtuple("Moment", "round since until score", defaults=(None, None))
 
 MOMENTS = {
-    "crowd": Moment(CROWD, 6),
+    "crowd": Moment(CROWD, 4, 9, flames),
     "explosion": Moment(35, 8, 18, flames),
     "warning": Moment(23, 15, 30, redness),
     "no-warning": Moment(23, 15, 30, calmness),
