@@ -34,6 +34,31 @@ class AutomaticOptionsTest : public testing::Test {
     DebugOutput before_ = nullptr;
 };
 
+// Arena size, shrink speed frames, frames before shrinking, shrink style, grid blocks, wall percent, powerup percent,
+// auction interval, preparation frames, spawn frames, snakes, snakes at once, search depth, and of the returning walls
+// interval, startBelow, stopAt.
+using Resolved = std::array<int, 16>;
+
+Resolved resolvedOptions() {
+    const GameOptions& o = gameOptions;
+    return {*o.arenaSizeResolved,
+            *o.shrinkSpeedFrames,
+            *o.timeBeforeShrinkingFrames,
+            *o.shrinkStyleResolved,
+            *o.gridBlocksResolved ? 1 : 0,
+            *o.wallPercent,
+            *o.powerupPercent,
+            *o.auctionInterval,
+            o.snakePreparationFrames,
+            o.snakeSpawnFrames,
+            o.snakeCount,
+            o.snakesAtOnce,
+            o.aiSearchDepth,
+            o.respawnWallsResolved.interval,
+            o.respawnWallsResolved.startBelow,
+            o.respawnWallsResolved.stopAt};
+}
+
 struct Drawn {
     int mode;
     int players;
@@ -41,10 +66,7 @@ struct Drawn {
     int frameMultiplier;
     int gridBlocks;
     int call;  // the how manieth in a row from the seeds
-    // Arena size, shrink speed frames, frames before shrinking, shrink style, grid blocks, wall percent, powerup
-    // percent, auction interval, preparation frames, spawn frames, snakes, snakes at once, search depth, and of the
-    // returning walls interval, startBelow, stopAt.
-    std::array<int, 16> resolved;
+    Resolved resolved;
 };
 
 // Worked out by a second implementation of the drawing rules, in another language, with generators of its own.
@@ -103,24 +125,7 @@ TEST_F(AutomaticOptionsTest, DrawsTheSameFromTheSameSeedsAtEveryRandomness) {
         for (int call = 0; call < drawn.call; ++call) {
             automaticOptions();
         }
-        const GameOptions& o = gameOptions;
-        const std::array<int, 16> resolved{*o.arenaSizeResolved,
-                                           *o.shrinkSpeedFrames,
-                                           *o.timeBeforeShrinkingFrames,
-                                           *o.shrinkStyleResolved,
-                                           *o.gridBlocksResolved ? 1 : 0,
-                                           *o.wallPercent,
-                                           *o.powerupPercent,
-                                           *o.auctionInterval,
-                                           o.snakePreparationFrames,
-                                           o.snakeSpawnFrames,
-                                           o.snakeCount,
-                                           o.snakesAtOnce,
-                                           o.aiSearchDepth,
-                                           o.respawnWallsResolved.interval,
-                                           o.respawnWallsResolved.startBelow,
-                                           o.respawnWallsResolved.stopAt};
-        EXPECT_EQ(resolved, drawn.resolved)
+        EXPECT_EQ(resolvedOptions(), drawn.resolved)
             << gameModeNames[static_cast<std::size_t>(drawn.mode)].longName << ", " << drawn.players
             << " players, randomness " << drawn.randomness << ", call " << drawn.call;
     }
@@ -141,18 +146,7 @@ TEST_F(AutomaticOptionsTest, ChosenFieldsAreTakenAsTheyAreAndNotLogged) {
     gameOptions.spawnInterval = 2;
     gameOptions.frameMultiplier = 2;
     automaticOptions();
-    EXPECT_EQ(gameOptions.arenaSizeResolved, 12);
-    EXPECT_EQ(gameOptions.shrinkSpeedFrames, 4);
-    EXPECT_EQ(gameOptions.timeBeforeShrinkingFrames, 2160);
-    EXPECT_EQ(gameOptions.shrinkStyleResolved, 3);
-    EXPECT_EQ(gameOptions.gridBlocksResolved, true);
-    EXPECT_EQ(gameOptions.wallPercent, 15);
-    EXPECT_EQ(gameOptions.powerupPercent, 100);
-    EXPECT_EQ(gameOptions.auctionInterval, 0);
-    EXPECT_EQ(gameOptions.snakeCount, 7);
-    EXPECT_EQ(gameOptions.snakesAtOnce, 4);
-    EXPECT_EQ(gameOptions.snakePreparationFrames, 2000);
-    EXPECT_EQ(gameOptions.snakeSpawnFrames, 398);
+    EXPECT_EQ(resolvedOptions(), (Resolved{12, 4, 2160, 3, 1, 15, 100, 0, 2000, 398, 7, 4, 15, 0, 0, 0}));
     EXPECT_EQ(globalGenerator, std::mt19937{}) << "nothing was left to chance";
     EXPECT_EQ(logged, "0: \n");
 }

@@ -11,38 +11,28 @@ using testing::IsEmpty;
 
 class MatchTest : public MatchStage {};
 
-TEST_F(MatchTest, GoesOnUntilSomebodyHasTheWinsNeeded) {
+TEST_F(MatchTest, GoesOnUntilSomebodyHasTheWinsNeededAndPlaysAgainWhatNobodyWins) {
     gameOptions.winsNeeded = 2;
-    letDie({{1}, {0}, {1}});
+    letDie({{1}, {0, 1}, {0}, {1}});
     EXPECT_FALSE(play()) << "it ran to its end";
-    EXPECT_THAT(winsAtStart, ElementsAre(Wins{0, 0}, Wins{1, 0}, Wins{1, 1}));
-    ASSERT_EQ(tables.size(), 3U);
-    EXPECT_EQ(tables[2].before, (Wins{1, 1}));
-    EXPECT_EQ(tables[2].after, (Wins{2, 1}));
-    EXPECT_FALSE(tables[2].noWinner);
-    EXPECT_THAT(tablesAtLootboxes, ElementsAre(3U)) << "once, behind the last table";
-    EXPECT_THAT((Wins{music.made, music.faded, music.stopped}), ElementsAre(3, 3, 3)) << "music of its own each round";
+    EXPECT_THAT(winsAtStart, ElementsAre(Wins{0, 0}, Wins{1, 0}, Wins{1, 0}, Wins{1, 1}));
+    ASSERT_EQ(tables.size(), 4U);
+    EXPECT_TRUE(tables[1].noWinner);
+    EXPECT_FALSE(tables[3].noWinner);
+    EXPECT_EQ(tables[3].before, (Wins{1, 1}));
+    EXPECT_EQ(tables[3].after, (Wins{2, 1}));
+    EXPECT_THAT(tablesAtLootboxes, ElementsAre(4U)) << "once, behind the last table";
+    EXPECT_THAT((Wins{music.made, music.faded, music.stopped}), ElementsAre(4, 4, 4)) << "music of its own each round";
     EXPECT_EQ(timesLogged("New game\n"), 1);
-    EXPECT_EQ(timesLogged("New round; randomness 0\n"), 3);
-    EXPECT_EQ(timesLogged("Round over\n"), 3);
-    EXPECT_EQ(timesLogged("Average FPS: 60.0\n"), 3) << "every tick was painted";
+    EXPECT_EQ(timesLogged("New round; randomness 0\n"), 4);
+    EXPECT_EQ(timesLogged("Round over\n"), 4);
+    EXPECT_EQ(timesLogged("Average FPS: 60.0\n"), 4) << "every tick was painted";
     EXPECT_EQ(timesLogged("Quit\n"), 0);
     EXPECT_EQ(timesLogged("Game ended\n"), 1);
 }
 
-TEST_F(MatchTest, ARoundThatNobodyWinsIsPlayedAgain) {
-    letDie({{0, 1}, {0, 1}, {0}});
+TEST_F(MatchTest, TheTableNamesTheRecordingInDiagnosticModeOnlyAndNoBoxesFollowWhereTheyAreOff) {
     lootboxesEnabled = false;
-    EXPECT_FALSE(play());
-    EXPECT_THAT(winsAtStart, ElementsAre(Wins{0, 0}, Wins{0, 0}, Wins{0, 0}));
-    ASSERT_EQ(tables.size(), 3U);
-    EXPECT_TRUE(tables[0].noWinner);
-    EXPECT_TRUE(tables[1].noWinner);
-    EXPECT_FALSE(tables[2].noWinner);
-    EXPECT_THAT(tablesAtLootboxes, IsEmpty()) << "loot boxes are switched off";
-}
-
-TEST_F(MatchTest, TheTableNamesTheRecordingInDiagnosticModeOnly) {
     for (const bool told : {false, true}) {
         diagnostic = told;
         logLines().clear();
@@ -51,6 +41,7 @@ TEST_F(MatchTest, TheTableNamesTheRecordingInDiagnosticModeOnly) {
         ASSERT_EQ(tables.size(), told ? 2U : 1U);
         EXPECT_EQ(timesLogged("Creating replay: " + tables.back().text + "\n"), told ? 1 : 0);
     }
+    EXPECT_THAT(tablesAtLootboxes, IsEmpty()) << "loot boxes are switched off";
 }
 
 TEST_F(MatchTest, SharedWinsEndTheMatchTogetherAndATieOfAllIsADraw) {
