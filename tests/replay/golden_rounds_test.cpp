@@ -211,24 +211,21 @@ TEST_F(PlantedFault, inTheTextIsFoundAtItsFramePlayerAndField) {
     EXPECT_EQ(lastFrame, 1199);
 }
 
+// Left, up: a walk that was not walked shows at once, unless a wall is in the way; all bits of some records are tried.
 TEST_F(PlantedFault, inOneInputBitTurnsThePlaybackRed) {
-    for (const std::size_t part : {0U, 2U, 4U}) {
-        std::string changed = bytes_;
-        const std::size_t records = (bytes_.size() - 1 - framesBegin()) / 2;
-        const std::size_t record = std::min(records * part / 4, records - 1);
-        // Left, up: a walk that was not walked shows at once, unless a wall is in the way; all bits of a record are
-        // tried.
+    const std::size_t records = (bytes_.size() - 1 - framesBegin()) / 2;
+    for (const std::size_t first : {std::size_t{0}, records / 2}) {
         bool found = false;
-        for (std::size_t later = record; later < std::min(record + 40, records) && !found; ++later) {
+        for (std::size_t record = first; record < first + 40 && !found; ++record) {
             for (const int bit : {0, 2, 1, 3}) {
-                changed = bytes_;
-                char& bits = changed[framesBegin() + later * 2 + 1];
+                std::string changed = bytes_;
+                char& bits = changed[framesBegin() + record * 2 + 1];
                 bits = static_cast<char>(bits ^ (1 << bit));
                 writeFile(path_, changed);
                 found = found || play().first != -1;
             }
         }
-        EXPECT_TRUE(found || part == 4U) << part;
+        EXPECT_TRUE(found) << "from record " << first;
     }
 }
 
