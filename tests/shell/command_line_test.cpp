@@ -44,24 +44,22 @@ class CommandLineTest : public testing::Test {
 };
 
 TEST_F(CommandLineTest, SwitchesAreTakenInOrder) {
-    const std::tuple<std::vector<const char*>, bool, bool, bool, int> cases[] = {
-        {{}, false, false, false, 0},
-        {{"/diag"}, true, false, false, 0},
-        {{"/fastForward", "/autoRandomControls"}, false, true, true, 0},
-        {{"/advanceLimit", "600", "/diag"}, true, false, false, 600},
-        {{"/advanceLimit", "/diag"}, false, false, false, 0},  // taken as the number
-        {{"/advanceLimit", "12 rounds"}, false, false, false, 12},
-        {{"/advanceLimit", "-3"}, false, false, false, -3},
-        {{"/advanceLimit", "5", "/advanceLimit"}, false, false, false, 5},  // the last one has no number
+    // Diagnostic, fast forward, random controls, limit.
+    const std::pair<std::vector<const char*>, std::tuple<bool, bool, bool, int>> cases[] = {
+        {{}, {false, false, false, 0}},
+        {{"/diag"}, {true, false, false, 0}},
+        {{"/fastForward", "/autoRandomControls"}, {false, true, true, 0}},
+        {{"/advanceLimit", "600", "/diag"}, {true, false, false, 600}},
+        {{"/advanceLimit", "/diag"}, {false, false, false, 0}},  // taken as the number
+        {{"/advanceLimit", "12 rounds"}, {false, false, false, 12}},
+        {{"/advanceLimit", "-3"}, {false, false, false, -3}},
+        {{"/advanceLimit", "5", "/advanceLimit"}, {false, false, false, 5}},  // the last one has no number
     };
-    for (const auto& [arguments, isDiagnostic, isFast, isRandom, limit] : cases) {
-        SCOPED_TRACE(testing::PrintToString(arguments));
+    for (const auto& [arguments, switches] : cases) {
         clear();
         process(arguments);
-        EXPECT_EQ(diagnostic, isDiagnostic);
-        EXPECT_EQ(fastForward, isFast);
-        EXPECT_EQ(autoRandomControls, isRandom);
-        EXPECT_EQ(advanceLimit, limit);
+        EXPECT_EQ(std::tuple(diagnostic, fastForward, autoRandomControls, advanceLimit), switches)
+            << testing::PrintToString(arguments);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "input/controls_manager.h"
@@ -109,9 +110,8 @@ TEST_F(FramePumpTest, EventsBecomeUpdatesAndAFrame) {
         renderedFrames = 800;
         emit(c.events);
         EXPECT_EQ(pump(c.passes), c.calls);
-        EXPECT_EQ(pendingTicks, c.pendingAfter);
-        EXPECT_EQ(totalTicks, c.ticks);
-        EXPECT_EQ(renderedFrames, std::ranges::count(c.calls, 'R'));
+        EXPECT_EQ(std::tuple(pendingTicks, totalTicks, renderedFrames),
+                  std::tuple(c.pendingAfter, c.ticks, std::ranges::count(c.calls, 'R')));
         // The list of devices tells of itself behind the line of the pump.
         EXPECT_EQ(c.logged.empty() ? log.text() : log.text().substr(0, c.logged.size()), c.logged);
     }
