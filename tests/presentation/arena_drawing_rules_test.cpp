@@ -20,6 +20,8 @@ namespace {
 
 using enum BitmapIds;
 using ::testing::ElementsAre;
+using ::testing::FieldsAre;
+using ::testing::FloatEq;
 using ::testing::IsEmpty;
 
 class ArenaDrawingRules : public ::testing::Test {
@@ -74,12 +76,8 @@ TEST_F(ArenaDrawingRules, ClosingWallsArriveInFiveStyles) {
         {4, 12, 16, true, 63.0f, 0.25f, 63}, {2, 16, 16, false, 0.0f, 1.0f, 0},
     };
     for (const auto& [style, countdown, stepFrames, spins, angle, scale, alpha] : arrivals) {
-        SCOPED_TRACE(style);
-        const WallArrival arrival = wallArrival(style, countdown, stepFrames);
-        EXPECT_EQ(arrival.spins, spins);
-        EXPECT_FLOAT_EQ(arrival.angle, angle);
-        EXPECT_FLOAT_EQ(arrival.scale, scale);
-        EXPECT_EQ(arrival.alpha, alpha);
+        EXPECT_THAT(wallArrival(style, countdown, stepFrames), FieldsAre(spins, FloatEq(angle), FloatEq(scale), alpha))
+            << style;
     }
 }
 
@@ -119,9 +117,8 @@ TEST_F(ArenaDrawingRules, BombPicturesRunOutWithTheFuse) {
 
     Bomb rocket;
     rocket.kind = BombKind::Rocket;
-    const std::pair<Facing, BitmapIds> rockets[] = {
-        {Facing::Right, R_Right}, {Facing::Up, R_Up}, {Facing::Left, R_Left}, {Facing::Down, R_Down}};
-    for (const auto& [direction, bitmap] : rockets) {
+    for (const auto& [direction, bitmap] :
+         {std::pair{Facing::Right, R_Right}, {Facing::Up, R_Up}, {Facing::Left, R_Left}, {Facing::Down, R_Down}}) {
         rocket.direction = direction;
         EXPECT_EQ(bombBitmap(rocket), bitmap);
     }
@@ -140,12 +137,15 @@ TEST_F(ArenaDrawingRules, PowerupsHaveImagesExceptTheOneThatIsNeverPlaced) {
 }
 
 TEST_F(ArenaDrawingRules, HillTilesPulseInOppositePhase) {
-    EXPECT_EQ(hillTileAlpha(0, true), 128);
-    EXPECT_EQ(hillTileAlpha(0, false), 128);
-    EXPECT_EQ(hillTileAlpha(47, true), 191);  // sine of 47 / 30 is 0.99999
-    EXPECT_EQ(hillTileAlpha(47, false), 65);
-    EXPECT_EQ(hillTileAlpha(141, true), 65);  // truncated toward zero on the way down, too
-    EXPECT_EQ(hillTileAlpha(15, true), 158);
+    // Truncated toward zero on the way down, too; the sine of 47 / 30 is 0.99999.
+    for (const auto& [frame, even, alpha] : {std::tuple{0, true, 128},
+                                             {0, false, 128},
+                                             {47, true, 191},
+                                             {47, false, 65},
+                                             {141, true, 65},
+                                             {15, true, 158}}) {
+        EXPECT_EQ(hillTileAlpha(frame, even), alpha) << frame;
+    }
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "presentation/atlas.h"
 #include "presentation/bitmaps.h"
+#include "presentation/ink.h"
 #include "support/drawing_stage.h"
 
 namespace vandrel {
@@ -33,17 +34,11 @@ class DrawingLayer : public DrawingTest {
 };
 
 TEST_F(DrawingLayer, PlainAndMirrored) {
-    drawId(canvas_, BitmapIds::Wall3, 10, 20);
-    EXPECT_EQ(pixelAt(canvas_, 11, 20), red);
-    EXPECT_EQ(pixelAt(canvas_, 41, 51), blue);
-    EXPECT_EQ(pixelAt(canvas_, 10, 20), black) << "magenta is transparent";
-    EXPECT_EQ(pixelAt(canvas_, 42, 51), black);
-
+    drawId(canvas_, BitmapIds::Wall3, 10, 20);  // of which magenta is transparent
+    expectPixels(canvas_, {{{11, 20}, red}, {{41, 51}, blue}, {{10, 20}, black}, {{42, 51}, black}});
     clearToBlack(canvas_);
     drawId(canvas_, BitmapIds::Wall3, 0, 0, flipHorizontally);
-    EXPECT_EQ(pixelAt(canvas_, 0, 0), blue);
-    EXPECT_EQ(pixelAt(canvas_, 31, 0), black);
-    EXPECT_EQ(pixelAt(canvas_, 30, 0), red);
+    expectPixels(canvas_, {{{0, 0}, blue}, {{31, 0}, black}, {{30, 0}, red}});
 }
 
 TEST_F(DrawingLayer, AlphaDimsColourAndAlphaAlike) {
@@ -58,19 +53,13 @@ TEST_F(DrawingLayer, AlphaDimsColourAndAlphaAlike) {
 TEST_F(DrawingLayer, TurnedAndScaledAboutAPoint) {
     // A quarter turn clockwise about the image's middle: the red left half comes to lie on top.
     drawRotatedId(canvas_, BitmapIds::Wall3, 16, 16, 32, 32, 255.0f / 4.0f, 1.0f);
-    EXPECT_EQ(pixelAt(canvas_, 32, 20), red);
-    EXPECT_EQ(pixelAt(canvas_, 32, 44), blue);
-
+    expectPixels(canvas_, {{{32, 20}, red}, {{32, 44}, blue}});
     clearToBlack(canvas_);
     drawRotatedId(canvas_, BitmapIds::Wall3, 0, 0, 8, 8, 0.0f, 0.5f);
-    EXPECT_EQ(pixelAt(canvas_, 12, 16), red);
-    EXPECT_EQ(pixelAt(canvas_, 20, 16), blue);
-    EXPECT_EQ(pixelAt(canvas_, 26, 16), black);
-
+    expectPixels(canvas_, {{{12, 16}, red}, {{20, 16}, blue}, {{26, 16}, black}});
     clearToBlack(canvas_);
     drawScaledId(canvas_, BitmapIds::Wall3, 16, 0, 16, 32, 0, 0, 64, 64);
-    EXPECT_EQ(pixelAt(canvas_, 2, 2), blue);
-    EXPECT_EQ(pixelAt(canvas_, 60, 60), blue);
+    expectPixels(canvas_, {{{2, 2}, blue}, {{60, 60}, blue}});
 }
 
 TEST_F(DrawingLayer, CountsThePlainAndScaledDraws) {
@@ -88,11 +77,7 @@ TEST_F(DrawingLayer, CountsThePlainAndScaledDraws) {
 TEST_F(DrawingLayer, PixelsAreExactlyWhereTheyArePut) {
     putPixel(canvas_, 3, 4, toColour(red));
     putPixels(canvas_, {{10, 10, toColour(blue)}, {11, 10, toColour(red)}});
-    EXPECT_EQ(pixelAt(canvas_, 3, 4), red);
-    EXPECT_EQ(pixelAt(canvas_, 10, 10), blue);
-    EXPECT_EQ(pixelAt(canvas_, 11, 10), red);
-    EXPECT_EQ(pixelAt(canvas_, 4, 4), black);
-    EXPECT_EQ(pixelAt(canvas_, 3, 3), black);
+    expectPixels(canvas_, {{{3, 4}, red}, {{4, 4}, black}, {{3, 3}, black}, {{10, 10}, blue}, {{11, 10}, red}});
 }
 
 TEST_F(DrawingLayer, FollowsATargetThatWasFreedAndMadeAnew) {

@@ -5,7 +5,9 @@
 
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
+#include <vector>
 
 #include "arena/bonus.h"
 #include "arena/game.h"
@@ -58,6 +60,12 @@ class GameDrawing : public ArenaPainting {
     RGB at(int x, int y, int dx = 0, int dy = 0) const {
         return pixelAt(canvas_, x * squareSize + 16 + dx, y * squareSize + 16 + dy);
     }
+    // In the middles of these squares.
+    void expectSquares(const std::vector<std::pair<Square, RGB>>& squares) const {
+        for (const auto& [square, colour] : squares) {
+            EXPECT_EQ(at(square.x, square.y), colour) << "at " << square.x << ", " << square.y;
+        }
+    }
 
     std::unique_ptr<Game> game_;
 };
@@ -71,13 +79,9 @@ TEST_F(GameDrawing, WallsLieOverPowerupsAndCrumblingOnesLetThemThrough) {
     squareGrid.set(2, 2, SquareKind::GridBlock);
     squareGrid.set(0, 0, SquareKind::EdgeWall);
     paint();
-    EXPECT_EQ(at(1, 1), brick);
+    expectSquares({{{1, 1}, brick}, {{5, 1}, powerup}, {{2, 2}, pillar}, {{0, 0}, edge}, {{4, 4}, floorColour}});
     EXPECT_EQ(at(3, 1, -8), brick);
     EXPECT_EQ(at(3, 1, 8), powerup);
-    EXPECT_EQ(at(5, 1), powerup);
-    EXPECT_EQ(at(2, 2), pillar);
-    EXPECT_EQ(at(0, 0), edge);
-    EXPECT_EQ(at(4, 4), floorColour);
 
     bonusGrid.at(6, 6) = Bonus::Death;
     EXPECT_THROW(paint(), std::out_of_range);
@@ -89,8 +93,7 @@ TEST_F(GameDrawing, ARowOfEqualWallsIsOneDraw) {
         squareGrid.set(x, 3, x % 2 == 0 ? SquareKind::Wall : SquareKind::HardWall);
     }
     paint();
-    EXPECT_EQ(at(width - 1, 0), edge);
-    EXPECT_EQ(at(width - 1, 3), brick);
+    expectSquares({{{width - 1, 0}, edge}, {{width - 1, 3}, brick}});
     drawCount = 0;
     paint();
     EXPECT_EQ(drawCount, 1 + width) << "the strip is made already";
@@ -101,9 +104,7 @@ TEST_F(GameDrawing, TheLobbyHasNeitherWallsNorPowerups) {
     bonusGrid.at(2, 1) = Bonus::Bomb;
     const auto player = addPlayer(4, 4);
     paint(true);
-    EXPECT_EQ(at(1, 1), (RGB{0, 32, 0}));
-    EXPECT_EQ(at(2, 1), (RGB{0, 32, 0}));
-    EXPECT_EQ(at(4, 4), torso);
+    expectSquares({{{1, 1}, {0, 32, 0}}, {{2, 1}, {0, 32, 0}}, {{4, 4}, torso}});
 }
 
 TEST_F(GameDrawing, TheWarningColoursTheFloorUnlessFlashingIsOff) {
@@ -134,23 +135,19 @@ TEST_F(GameDrawing, FlamesLieOverBombsFrontsOverTailsAndPlayersOverAll) {
     }
     addPlayer(6, 2);
     paint();
-    EXPECT_EQ(at(2, 2), bomb);
-    EXPECT_EQ(at(4, 2), front);
+    // A flame without an owner has ended.
+    expectSquares({{{2, 2}, bomb}, {{4, 2}, front}, {{6, 2}, torso}, {{7, 2}, floorColour}});
     EXPECT_EQ(at(5, 2, 0, 10), body);
-    EXPECT_EQ(at(6, 2), torso);
-    EXPECT_EQ(at(7, 2), floorColour) << "a flame without an owner has ended";
 }
 
 TEST_F(GameDrawing, LowerPlayersStandBeforeHigherOnes) {
     addPlayer(3, 5);
     addPlayer(3, 4);
     paint();
-    EXPECT_EQ(at(3, 4), head) << "the head of the lower player covers the body of the higher one";
-    EXPECT_EQ(at(3, 5), torso);
+    expectSquares({{{3, 4}, head}, {{3, 5}, torso}});  // the lower one's head covers the higher one's body
     players[0]->dead = true;
     paint();
-    EXPECT_EQ(at(3, 4), torso);
-    EXPECT_EQ(at(3, 5), floorColour);
+    expectSquares({{{3, 4}, torso}, {{3, 5}, floorColour}});
 }
 
 TEST_F(GameDrawing, GhostsFadeAndBlinkBeforeTheyEnd) {

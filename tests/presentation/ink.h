@@ -2,7 +2,10 @@
 #pragma once
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
+#include "base/vector2.h"
 #include "support/drawing_stage.h"
 
 namespace vandrel {
@@ -37,6 +40,13 @@ Ink inkOf(const BitmapWrapper& picture, const Part& part, const auto& isInk) {
 }
 inline Ink inkOf(const BitmapWrapper& picture, const Part& part, RGB colour) {
     return inkOf(picture, part, [colour](RGB pixel) { return pixel == colour; });
+}
+
+// That these pixels have these colours.
+inline void expectPixels(const BitmapWrapper& picture, const std::vector<std::pair<Pixel, RGB>>& pixels) {
+    for (const auto& [place, colour] : pixels) {
+        EXPECT_EQ(pixelAt(picture, place.x, place.y), colour) << "at " << place.x << ", " << place.y;
+    }
 }
 
 }  // namespace vandrel

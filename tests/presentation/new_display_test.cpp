@@ -6,6 +6,7 @@
 #include "presentation/atlas.h"
 #include "presentation/bitmaps.h"
 #include "presentation/drawing.h"
+#include "presentation/ink.h"
 #include "shell/display.h"
 #include "support/drawing_stage.h"
 
@@ -40,9 +41,7 @@ TEST_F(NewDisplayOnDisplay, PicturesSurviveAndAreHealedWhenDrawn) {
     clearToBlack(canvas);
     drawId(canvas, BitmapIds::Block3, 0, 0);
     drawWrapper(*composed, canvas, 40, 40);
-    EXPECT_EQ(pixelAt(canvas, 16, 16), red);
-    EXPECT_EQ(pixelAt(canvas, 50, 50), blue);
-    EXPECT_EQ(pixelAt(canvas, 36, 36), (RGB{0, 0, 0}));
+    expectPixels(canvas, {{{16, 16}, red}, {{50, 50}, blue}, {{36, 36}, {0, 0, 0}}});
     EXPECT_FALSE(isInMemory(getBitmap(BitmapIds::Block3)));
     EXPECT_FALSE(isInMemory(composed->bitmap));
 

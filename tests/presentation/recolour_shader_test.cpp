@@ -15,6 +15,7 @@
 #include "presentation/atlas.h"
 #include "presentation/bitmaps.h"
 #include "presentation/drawing.h"
+#include "presentation/ink.h"
 #include "presentation/plain_shader.h"
 #include "shell/accessibility.h"
 #include "support/drawing_stage.h"
@@ -22,7 +23,7 @@
 namespace vandrel {
 namespace {
 
-const ALLEGRO_COLOR white = toColour({255, 255, 255});
+constexpr RGB white{255, 255, 255};
 constexpr RGB ink{28, 20, 36};
 
 class RecolourOnDisplay : public DrawingOnDisplay {
@@ -74,16 +75,14 @@ TEST_F(RecolourOnDisplay, GreysBecomeShadesOfTheColour) {
     EXPECT_NEAR(pixelAt(*shaded, 10, 16).red, 152, 3) << "almost neutral counts as neutral";
     EXPECT_TRUE(isTransparentAt(*shaded, 7, 16));
     const auto exact = paint(BitmapIds::Head0_D_014, greyTo(brown, false));
-    // Brighter than the base stays as it is; only what is within the tolerance of it is taken where darker tones are
-    // not.
-    const std::pair<int, RGB> shades[] = {{8, brown}, {9, {100, 50, 25}},   {11, {}}, {12, {255, 255, 255}},
-                                          {13, ink},  {15, {200, 200, 200}}};
-    for (const auto& [x, colour] : shades) {
-        EXPECT_EQ(pixelAt(*shaded, x, 16), colour) << x;
-    }
-    for (const auto& [x, colour] : {std::pair{8, brown}, {9, RGB{96, 96, 96}}, {14, brown}}) {
-        EXPECT_EQ(pixelAt(*exact, x, 16), colour) << x;
-    }
+    // The last of each is brighter than the base, and within its tolerance.
+    expectPixels(*shaded, {{{8, 16}, brown},
+                           {{9, 16}, {100, 50, 25}},
+                           {{11, 16}, {0, 0, 0}},
+                           {{12, 16}, white},
+                           {{13, 16}, ink},
+                           {{15, 16}, {200, 200, 200}}});
+    expectPixels(*exact, {{{8, 16}, brown}, {{9, 16}, {96, 96, 96}}, {{14, 16}, brown}});
 }
 
 TEST_F(RecolourOnDisplay, AnyPixelTakesTheWholeFigure) {
@@ -107,17 +106,16 @@ TEST_F(RecolourOnDisplay, TheOutlineClosesRoundTheFigureAndKeepsInsideItsImage) 
     loadBitmaps(bitmapIndex(BitmapIds::Bomb2));
     loadPlainImage(bitmapIndex(BitmapIds::Bomb3), {0, 255, 0});
     RecolourSettings settings;
-    settings.outlineCol = white;
+    settings.outlineCol = toColour(white);
     const auto painted = paint(BitmapIds::Bomb2, settings);
     for (int i = 10; i < 14; ++i) {
         for (const auto& [x, y] : {std::pair{i, 9}, {i, 14}, {9, i}, {14, i}}) {
-            EXPECT_EQ(pixelAt(*painted, x, y), (RGB{255, 255, 255})) << x << ", " << y;
+            EXPECT_EQ(pixelAt(*painted, x, y), white) << x << ", " << y;
         }
         EXPECT_EQ(pixelAt(*painted, i, i), ink);
     }
     EXPECT_TRUE(isTransparentAt(*painted, 9, 9)) << "diagonal neighbours do not touch";
-    EXPECT_EQ(pixelAt(*painted, 1, 0), (RGB{255, 255, 255}));
-    EXPECT_EQ(pixelAt(*painted, 0, 1), (RGB{255, 255, 255}));
+    expectPixels(*painted, {{{1, 0}, white}, {{0, 1}, white}});
     for (int i = 2; i < 32; ++i) {
         EXPECT_TRUE(isTransparentAt(*painted, i, 0) && isTransparentAt(*painted, 31, i) &&
                     isTransparentAt(*painted, i, 31))
@@ -140,9 +138,7 @@ TEST_F(RecolourOnDisplay, BatchesKeepShadedAndPlainDrawsApart) {
         stopRecolourShader();
         drawId(canvas, BitmapIds::Bomb1, 64, 0);
     }
-    EXPECT_EQ(pixelAt(canvas, 16, 16), (RGB{0, 0, 0}));
-    EXPECT_EQ(pixelAt(canvas, 48, 16), (RGB{255, 0, 255})) << "bombs are recoloured";
-    EXPECT_EQ(pixelAt(canvas, 80, 16), (RGB{0, 0, 0}));
+    expectPixels(canvas, {{{16, 16}, {0, 0, 0}}, {{48, 16}, {255, 0, 255}}, {{80, 16}, {0, 0, 0}}});
 }
 
 // Mirrored, faded, tinted and turned images, primitives between them, and a picture composed on the way.
@@ -205,8 +201,7 @@ TEST_F(SpritesOnDisplay, APlayerIsComposedOnceInItsColour) {
     const Sprite& sprite = getSprite(key_);
     EXPECT_EQ(sprite.picture->width(), 32);
     EXPECT_EQ(sprite.picture->height(), 64);
-    EXPECT_EQ(pixelAt(*sprite.picture, 16, 16), (RGB{0, 0, 200})) << "head";
-    EXPECT_EQ(pixelAt(*sprite.picture, 16, 48), (RGB{0, 0, 200})) << "body";
+    expectPixels(*sprite.picture, {{{16, 16}, {0, 0, 200}}, {{16, 48}, {0, 0, 200}}});  // head and body
     EXPECT_TRUE(isTransparentAt(*sprite.picture, 7, 16));
     EXPECT_EQ(&getSprite(key_), &sprite);
 
@@ -218,17 +213,16 @@ TEST_F(SpritesOnDisplay, APlayerIsComposedOnceInItsColour) {
 TEST_F(SpritesOnDisplay, AShieldIsAWhiteOutlineThenAWhiteFigure) {
     key_.flash = 1;
     const BitmapWrapper& outlined = *getSprite(key_).picture;
-    EXPECT_EQ(pixelAt(outlined, 7, 16), (RGB{255, 255, 255}));
-    EXPECT_EQ(pixelAt(outlined, 16, 28), (RGB{255, 255, 255})) << "closed in each image by itself";
-    EXPECT_EQ(pixelAt(outlined, 16, 16), (RGB{0, 0, 200}));
+    // The outline is closed in each image by itself.
+    expectPixels(outlined, {{{7, 16}, white}, {{16, 28}, white}, {{16, 16}, {0, 0, 200}}});
 
     key_.flash = 2;
     const BitmapWrapper& flashing = *getSprite(key_).picture;
-    EXPECT_EQ(pixelAt(flashing, 16, 16), (RGB{255, 255, 255}));
+    EXPECT_EQ(pixelAt(flashing, 16, 16), white);
     EXPECT_TRUE(isTransparentAt(flashing, 7, 16));
 
     key_.slowed = true;
-    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 16, 16), (RGB{255, 255, 255})) << "a snail too";
+    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 16, 16), white) << "a snail too";
 }
 
 TEST_F(SpritesOnDisplay, TheChosenOutlineYieldsToTheShield) {
@@ -236,12 +230,11 @@ TEST_F(SpritesOnDisplay, TheChosenOutlineYieldsToTheShield) {
     accessibility.outlineCol = {200, 100, 0};
     EXPECT_EQ(pixelAt(*getSprite(key_).picture, 7, 16), (RGB{200, 100, 0}));
     key_.flash = 1;
-    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 7, 16), (RGB{255, 255, 255}));
+    EXPECT_EQ(pixelAt(*getSprite(key_).picture, 7, 16), white);
     key_.flash = 0;
     key_.slowed = true;
     const BitmapWrapper& snail = *getSprite(key_).picture;
-    EXPECT_EQ(pixelAt(snail, 7, 16), (RGB{200, 100, 0}));
-    EXPECT_EQ(pixelAt(snail, 16, 16), (RGB{192, 192, 192})) << "keeps its own colours";
+    expectPixels(snail, {{{7, 16}, {200, 100, 0}}, {{16, 16}, {192, 192, 192}}});  // it keeps its own colours
 }
 
 class ShaderFailureOnDisplay : public DrawingOnDisplay {};

@@ -1,30 +1,45 @@
 #include "players/sprite_recipe_drawing.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
 #include <tuple>
+#include <vector>
 
 #include "match/options/game_options.h"
+#include "support/drawing_stage.h"
 
 namespace vandrel {
 namespace {
 
 using enum BitmapIds;
-using ::testing::ElementsAre;
+using Flags = std::vector<bool SpriteKey::*>;
+
+SpriteKey keyOf(int skin, Facing facing, int frame, const Flags& flags = {}) {
+    SpriteKey key;
+    key.look.skin = skin;
+    key.look.colour = toColour({10, 20, 30});
+    key.facing = facing;
+    key.frame = frame;
+    for (const auto flag : flags) {
+        key.*flag = true;
+    }
+    return key;
+}
+
+// What is true of a recipe besides its layers.
+std::string wordsOf(const SpriteRecipe& recipe) {
+    const bool isOwn = sameColour(recipe.colour.value_or(clearPixel), toColour({10, 20, 30}));
+    return std::string(isOwn           ? "coloured"
+                       : recipe.colour ? "wrong"
+                                       : "plain") +
+           (recipe.anyPixel ? ", any pixel" : "") + (recipe.stacked && recipe.layers.size() > 1 ? ", stacked" : "") +
+           (recipe.reversed ? ", reversed" : "");
+}
 
 class SpriteRecipeTest : public ::testing::Test {
   protected:
     ~SpriteRecipeTest() override { gameOptions = GameOptions(); }
-
-    static SpriteKey keyOf(int skin, Facing facing, int frame) {
-        SpriteKey key;
-        key.look.skin = skin;
-        key.look.colour = toColour({10, 20, 30});
-        key.facing = facing;
-        key.frame = frame;
-        return key;
-    }
 };
 
 TEST_F(SpriteRecipeTest, EachSkinHasItsHeads) {
@@ -60,69 +75,32 @@ TEST_F(SpriteRecipeTest, HeadsFollowTheWalk) {
     }
 }
 
-TEST_F(SpriteRecipeTest, AWalkerIsAHeadOverABody) {
-    const SpriteRecipe left = buildSprite(keyOf(0, Facing::Left, 3));
-    EXPECT_THAT(left.layers, ElementsAre(SpriteLayer{Head0_R_23, 0, true}, SpriteLayer{Body0_R_3, 0, true}));
-    EXPECT_EQ(left.offset, (Pixel{0, -29}));
-    EXPECT_TRUE(left.stacked);
-    EXPECT_FALSE(left.reversed);
-    EXPECT_FALSE(left.anyPixel);
-    ASSERT_TRUE(left.colour);
-    EXPECT_TRUE(sameColour(*left.colour, toColour({10, 20, 30})));
-
-    const SpriteRecipe up = buildSprite(keyOf(1, Facing::Up, 1));
-    EXPECT_THAT(up.layers, ElementsAre(SpriteLayer{Head0_U_014, 0, false}, SpriteLayer{Body0_D_1, 0, false}));
-    EXPECT_EQ(up.offset, (Pixel{0, -30}));
-
-    SpriteKey steering = keyOf(6, Facing::Left, 5);
-    steering.steering = true;
-    EXPECT_THAT(buildSprite(steering).layers,
-                ElementsAre(SpriteLayer{Head6_L_0, 0, false}, SpriteLayer{Body0_Ctrl, 0, false}));
-}
-
-TEST_F(SpriteRecipeTest, ACrawlerLiesAlongItsHeading) {
-    SpriteKey key = keyOf(7, Facing::Left, 2);
-    key.crawling = true;
-    const SpriteRecipe left = buildSprite(key);
-    EXPECT_THAT(left.layers, ElementsAre(SpriteLayer{Body0_Crawl_R_1, 0, true}, SpriteLayer{Head7_Crawl_L, 0, false}));
-    EXPECT_EQ(left.offset, (Pixel{-24, 0}));
-    EXPECT_TRUE(left.reversed);
-    EXPECT_FALSE(left.stacked);
-
-    key = keyOf(0, Facing::Up, 1);
-    key.crawling = true;
-    const SpriteRecipe up = buildSprite(key);
-    EXPECT_THAT(up.layers, ElementsAre(SpriteLayer{Body0_Crawl_R_0, 0, false}, SpriteLayer{Head0_Crawl_R, 0, false}));
-    EXPECT_EQ(up.offset, (Pixel{-8, 0}));
-    EXPECT_FALSE(up.reversed);
-
-    key.dead = true;
-    EXPECT_EQ(buildSprite(key).layers.front().bitmap, Body0_Crawl_R_0);
+TEST_F(SpriteRecipeTest, WalkersCrawlersSnailsAndSnakesArePutTogetherEachInTheirWay) {
+    using enum Facing;
+    using K = SpriteKey;
+    const auto expectSprite = [](const SpriteKey& key, const std::vector<SpriteLayer>& layers, Pixel offset,
+                                 const std::string& words) {
+        const SpriteRecipe recipe = buildSprite(key);
+        EXPECT_EQ(recipe.layers, layers) << words;
+        EXPECT_EQ(recipe.offset, offset) << words;
+        EXPECT_EQ(wordsOf(recipe), words);
+    };
+    expectSprite(keyOf(0, Left, 3), {{Head0_R_23, 0, true}, {Body0_R_3, 0, true}}, {0, -29}, "coloured, stacked");
+    expectSprite(keyOf(1, Up, 1), {{Head0_U_014}, {Body0_D_1}}, {0, -30}, "coloured, stacked");
+    expectSprite(keyOf(6, Left, 5, {&K::steering}), {{Head6_L_0}, {Body0_Ctrl}}, {0, -28}, "coloured, stacked");
+    const SpriteKey deadCrawler = keyOf(0, Up, 1, {&K::crawling, &K::dead});
+    expectSprite(keyOf(7, Left, 2, {&K::crawling}), {{Body0_Crawl_R_1, 0, true}, {Head7_Crawl_L}}, {-24, 0},
+                 "coloured, reversed");
+    for (const SpriteKey& crawler : {keyOf(0, Up, 1, {&K::crawling}), deadCrawler}) {
+        expectSprite(crawler, {{Body0_Crawl_R_0}, {Head0_Crawl_R}}, {-8, 0}, "coloured");
+    }
+    expectSprite(keyOf(3, Left, 4, {&K::slowed}), {{Snail, 0, true}}, {0, -12}, "plain, any pixel");
+    expectSprite(keyOf(3, Up, 4, {&K::slowed, &K::crawling}), {{SnailDown}}, {0, -12}, "plain, any pixel");
+    for (const auto snake : {&K::isAI, &K::snake}) {
+        expectSprite(keyOf(3, Up, 4, {&K::slowed, &K::crawling, snake}), {{Head3_U_014}}, {0, 0}, "coloured");
+    }
     gameOptions.gameMode = GameMode::Everything;
-    EXPECT_EQ(buildSprite(key).layers.front().bitmap, Head0_U_014) << "the dead walk in Everything";
-}
-
-TEST_F(SpriteRecipeTest, SlowedHumansAreSnailsAndSnakesAreHeads) {
-    SpriteKey key = keyOf(3, Facing::Left, 4);
-    key.slowed = true;
-    const SpriteRecipe snail = buildSprite(key);
-    EXPECT_THAT(snail.layers, ElementsAre(SpriteLayer{Snail, 0, true}));
-    EXPECT_EQ(snail.offset, (Pixel{0, -12}));
-    EXPECT_FALSE(snail.colour);
-    EXPECT_TRUE(snail.anyPixel);
-
-    key.crawling = true;
-    key.facing = Facing::Up;
-    EXPECT_THAT(buildSprite(key).layers, ElementsAre(SpriteLayer{SnailDown, 0, false}));
-
-    key.isAI = true;
-    const SpriteRecipe snake = buildSprite(key);
-    EXPECT_THAT(snake.layers, ElementsAre(SpriteLayer{Head3_U_014, 0, false}));
-    EXPECT_EQ(snake.offset, (Pixel{0, 0}));
-    EXPECT_TRUE(snake.colour);
-    key.isAI = false;
-    key.snake = true;
-    EXPECT_EQ(buildSprite(key).layers, snake.layers);
+    EXPECT_EQ(buildSprite(deadCrawler).layers.front().bitmap, Head0_U_014) << "the dead walk in Everything";
 }
 
 TEST_F(SpriteRecipeTest, HandsAreWhereTheFistsAre) {
