@@ -54,6 +54,13 @@ class MenuTest : public testing::Test {
         keys.clear();
     }
 
+    // Downward, row by row.
+    void choose(VandrelMenu& menu, int row) {
+        for (int steps = 0; menu.selected() != row && steps < 100; ++steps) {
+            press(menu, {ALLEGRO_KEY_DOWN});
+        }
+    }
+
     void update(VandrelMenu& menu, int updates) const {
         for (int i = 0; i < updates; ++i) {
             menu.update(limit);

@@ -86,27 +86,19 @@ TEST_F(MenuTest, AListTallerThanTheScreenScrolls) {
     VandrelMenu menu(&layoutSmall);  // rows from 300, 40 apart, 51 high
     addRows(menu, 10);
     limit = 479;  // the fourth row ends at 471
-    menu.update(limit);
-    EXPECT_EQ(menu.scrollY(), 0);
-    EXPECT_TRUE(menu.moreBelow());
-    EXPECT_FALSE(menu.moreAbove());
-    const auto goTo = [&](int row) {
-        while (menu.selected() != row) {
-            press(menu, {ALLEGRO_KEY_DOWN});
-        }
+    // Just as far as the selected row needs; the first row reaches into the band until the sixth is selected.
+    const std::tuple<int, int, bool, bool> rows[] = {{0, 0, false, true},
+                                                     {4, 479 - 511, false, true},
+                                                     {5, 479 - 551, true, true},
+                                                     {9, 479 - 711, true, false},
+                                                     {0, 0, false, true}};
+    for (const auto& [row, scroll, moreAbove, moreBelow] : rows) {
+        choose(menu, row);
         idle(menu);
-    };
-    goTo(4);
-    EXPECT_EQ(menu.scrollY(), 479 - 511) << "just as far as the row needs";
-    EXPECT_FALSE(menu.moreAbove()) << "the first row still reaches into the band";
-    goTo(5);
-    EXPECT_TRUE(menu.moreAbove());
-    EXPECT_TRUE(menu.moreBelow());
-    goTo(9);
-    EXPECT_TRUE(menu.moreAbove());
-    EXPECT_FALSE(menu.moreBelow()) << "the last row ends at the limit";
-    goTo(0);
-    EXPECT_EQ(menu.scrollY(), 0) << "wrapped to the top";
+        EXPECT_EQ(std::tuple(menu.scrollY(), menu.moreAbove(), menu.moreBelow()),
+                  std::tuple(scroll, moreAbove, moreBelow))
+            << "row " << row;
+    }
 }
 
 TEST_F(MenuTest, NumbersNamesAndSwitches) {
@@ -121,11 +113,6 @@ TEST_F(MenuTest, NumbersNamesAndSwitches) {
     menu.addEnum(left, "named", &named, 0, 2, names);
     menu.addBool(left, "on", &on, makeNameList(offOn));
 
-    const auto choose = [&](int row) {
-        while (menu.selected() != row) {
-            press(menu, {ALLEGRO_KEY_DOWN});
-        }
-    };
     const std::tuple<int, int, const char*> steps[] = {
         {0, ALLEGRO_KEY_RIGHT, "100"},  {0, ALLEGRO_KEY_RIGHT, "0"},   {0, ALLEGRO_KEY_LEFT, "100"},
         {0, ALLEGRO_KEY_ENTER, "0"},    {1, ALLEGRO_KEY_RIGHT, "0"},   {1, ALLEGRO_KEY_LEFT, "100"},
@@ -134,13 +121,13 @@ TEST_F(MenuTest, NumbersNamesAndSwitches) {
         {3, ALLEGRO_KEY_ENTER, "On"},
     };
     for (const auto& [row, key, shown] : steps) {
-        choose(row);
+        choose(menu, row);
         press(menu, {key});
         EXPECT_EQ(entry(menu, static_cast<std::size_t>(row)).valueText(), shown) << row << ", key " << key;
     }
     EXPECT_TRUE(on);
     EXPECT_EQ(heard().back(), (HeardSample{SampleIds::Slide, 255, 128, 2000}));
-    choose(0);
+    choose(menu, 0);
     press(menu, {ALLEGRO_KEY_RIGHT, ALLEGRO_KEY_DOWN});
     EXPECT_EQ(menu.selected(), 1) << "the move wins";
     EXPECT_EQ(tens, 0);
