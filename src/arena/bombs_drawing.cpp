@@ -10,6 +10,7 @@
 #include "base/checked.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/recolour_shader.h"
 #include "shell/accessibility.h"
@@ -62,7 +63,7 @@ BitmapIds rocketBitmap(Facing direction) {
 
 RecolourSettings bombSettings() {
     RecolourSettings settings;
-    settings.baseCol = toColour({0, 0, 0});
+    settings.baseCol = toColour(black);
     settings.newCol = toColour(accessibility.newBombCol);
     return settings;
 }

@@ -1,6 +1,8 @@
 #include "arena/flags_drawing.h"
 
+#include <array>
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 
 #include "arena/arena_pictures_drawing.h"
@@ -8,6 +10,7 @@
 #include "match/options/game_options.h"
 #include "players/player.h"
 #include "presentation/atlas.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/frame_counter.h"
@@ -18,8 +21,7 @@ namespace {
 
 constexpr Pixel poleFoot{12, 31};  // of a flag's image; stands in the carrier's hand
 constexpr int flagFrameLength = 3;
-
-const ALLEGRO_COLOR white{1.0f, 1.0f, 1.0f, 1.0f};
+constexpr std::array<Pixel, 5> baseRings{{{16, 4}, {12, 3}, {9, 2}, {6, 1}, {3, 0}}};  // pixels each way
 
 struct PixelBytes {
     std::uint8_t red;
@@ -35,6 +37,9 @@ void dyeCloth(ALLEGRO_BITMAP* picture, const ALLEGRO_COLOR& colour) {
     const BatchPause pause;
     const ALLEGRO_LOCKED_REGION* region =
         al_lock_bitmap(picture, ALLEGRO_PIXEL_FORMAT_ABGR_8888_LE, ALLEGRO_LOCK_READWRITE);
+    if (region == nullptr) {
+        throw std::runtime_error("Could not lock bitmap");
+    }
     for (int y = 0; y < al_get_bitmap_height(picture); ++y) {
         auto* row = reinterpret_cast<PixelBytes*>(static_cast<char*>(region->data) + y * region->pitch);
         for (int x = 0; x < al_get_bitmap_width(picture); ++x) {
@@ -58,7 +63,7 @@ const BitmapWrapper& flagPicture(Game& game, int team, int frame) {
     auto& frames = picturesOf(game).flagFrames[team];
     std::shared_ptr<BitmapWrapper>& picture = frames[static_cast<unsigned>(frame)];
     if (!picture) {
-        picture = makeFlagFrame(frame, team < 0 ? white : teams.at(static_cast<unsigned>(team)).colour);
+        picture = makeFlagFrame(frame, team < 0 ? toColour(white) : teams.at(static_cast<unsigned>(team)).colour);
     }
     return *picture;
 }
@@ -79,10 +84,10 @@ void drawTeamBases(const BitmapWrapper& target) {
         const Pixel corner = squareToPixel(team.base());
         const int x = corner.x + halfSquare;
         const int y = corner.y + squareSize;
-        for (float size = 1.0f; size > 0.0f; size -= 0.2f) {
-            drawEllipse(target, x, y, static_cast<int>(16.0f * size), static_cast<int>(4.0f * size), team.colour);
+        for (const Pixel ring : baseRings) {
+            drawEllipse(target, x, y, ring.x, ring.y, team.colour);
         }
-        drawText(target, FontId::Font20, x, y, white, std::to_string(team.displayedScore), alignCentre);
+        drawText(target, FontId::Font20, x, y, toColour(white), std::to_string(team.displayedScore), alignCentre);
     }
 }
 

@@ -10,6 +10,7 @@
 #include "match/options/game_options.h"
 #include "players/player.h"
 #include "players/sprites_drawing.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/text.h"
 #include "shell/accessibility.h"
@@ -28,8 +29,9 @@ constexpr int trailStep = 5;  // points from one afterimage to the next
 constexpr int firstTrailAlpha = 127;
 constexpr int teamMarkerWidth = 16;  // pixels each way from its middle
 constexpr int teamMarkerHeight = 4;
-
-const ALLEGRO_COLOR white{1.0f, 1.0f, 1.0f, 1.0f};
+constexpr int deviceNameBelow = 42;  // pixels from the top of the player
+constexpr int killsAbove = 48;
+constexpr float rescueRingThickness = 6.0f;
 
 void drawSprite(const BitmapWrapper& target, const Sprite& sprite, Pixel position, int alpha) {
     drawWrapper(*sprite.picture, target, position.x + sprite.offset.x, position.y + sprite.offset.y, alpha);
@@ -98,13 +100,16 @@ void drawSnakeParts(const BitmapWrapper& target, const Player& player, int alpha
 void drawTexts(const BitmapWrapper& target, const Player& player) {
     const int middle = player.centre().x;
     if (!player.controls->isConnected()) {
-        drawText(target, FontId::Builtin, middle, player.y + squareSize, white, "CONTROLLER LOST", alignCentre);
+        drawText(target, FontId::Builtin, middle, player.y + squareSize, toColour(white), "CONTROLLER LOST",
+                 alignCentre);
     }
     if (showControllerDebug) {
-        drawText(target, FontId::Builtin, middle, player.y + 42, white, player.controls->debugName(), alignCentre);
+        drawText(target, FontId::Builtin, middle, player.y + deviceNameBelow, toColour(white),
+                 player.controls->debugName(), alignCentre);
     }
     if (isModeActive(GameMode::Deathmatch) && gameOptions.gameMode != GameMode::Everything) {
-        drawText(target, FontId::Font24, middle, player.y - 48, white, std::to_string(player.kills), alignCentre);
+        drawText(target, FontId::Font24, middle, player.y - killsAbove, toColour(white), std::to_string(player.kills),
+                 alignCentre);
     }
 }
 
@@ -112,7 +117,7 @@ void drawRings(const BitmapWrapper& target, const Player& player) {
     const Pixel centre = player.centre();
     if (player.crawling && player.reviveProgress > 0 && player.crawlTimer == 0) {
         const float share = static_cast<float>(player.reviveProgress) / static_cast<float>(reaches.rescueFrames);
-        drawArc(target, centre.x, centre.y, halfSquare, 0.0f, share * fullTurn, white, 6.0f);
+        drawArc(target, centre.x, centre.y, halfSquare, 0.0f, share * fullTurn, toColour(white), rescueRingThickness);
     }
     if (player.pingTimer > 0) {
         drawEllipse(target, centre.x, centre.y, player.pingTimer, player.pingTimer, player.look.colour);
@@ -133,11 +138,15 @@ void drawLiving(const BitmapWrapper& target, const Player& player) {
 }  // namespace
 
 void drawPlayers(const BitmapWrapper& target) {
+    std::vector<const Player*> byHeight;
+    byHeight.reserve(players.size());
+    for (const auto& player : players) {
+        byHeight.push_back(player.get());
+    }
     // Stable, so that players of equal height do not change places from frame to frame.
-    std::vector<std::shared_ptr<Player>> byHeight = players;
-    std::stable_sort(byHeight.begin(), byHeight.end(), [](const auto& a, const auto& b) { return a->y < b->y; });
+    std::ranges::stable_sort(byHeight, {}, &Player::y);
     const DrawingBatch batch(target);
-    for (const std::shared_ptr<Player>& player : byHeight) {
+    for (const Player* player : byHeight) {
         drawParticles(target, *player);
         if (!player->dead) {
             drawLiving(target, *player);

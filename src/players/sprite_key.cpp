@@ -17,13 +17,13 @@ constexpr float shrinkPerSecond = 0.5f;  // taken from the growth of a flying sp
 // weaker look.
 int flashOf(const Player& player) {
     if (!player.shield || player.dead) {
-        return 0;
+        return Flash::None;
     }
     const bool blinks = blinksOut(player);
     if (player.isSnake()) {
-        return blinks ? 0 : 2;
+        return blinks ? Flash::None : Flash::WhiteFigure;
     }
-    return blinks ? 2 : 1;
+    return blinks ? Flash::WhiteFigure : Flash::WhiteOutline;
 }
 
 }  // namespace

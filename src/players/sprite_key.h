@@ -10,10 +10,17 @@ namespace vandrel {
 
 class Player;
 
+// What a shield adds to a sprite.
+namespace Flash {
+inline constexpr int None = 0;
+inline constexpr int WhiteOutline = 1;
+inline constexpr int WhiteFigure = 2;
+}  // namespace Flash
+
 struct SpriteKey {
     PlayerLook look;  // the reserved word takes no part
     Facing facing = Facing::Down;
-    int flash = 0;  // 0 none, 1 white outline, 2 white figure
+    int flash = Flash::None;
     int frame = 0;  // walk frame, 0 to 6
     bool slowed = false;
     bool snake = false;

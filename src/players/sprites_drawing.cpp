@@ -8,6 +8,7 @@
 #include "players/sprite_recipe_drawing.h"
 #include "presentation/atlas.h"
 #include "presentation/bitmaps.h"
+#include "presentation/colours.h"
 #include "presentation/drawing.h"
 #include "presentation/recolour_shader.h"
 #include "shell/accessibility.h"
@@ -17,10 +18,6 @@ namespace vandrel {
 namespace {
 
 constexpr RGB playerGrey{192, 192, 192};
-constexpr RGB white{255, 255, 255};
-
-constexpr int whiteOutline = 1;
-constexpr int whiteFigure = 2;
 
 struct SpriteKeyHash {
     std::size_t operator()(const SpriteKey& key) const {
@@ -48,7 +45,7 @@ RecolourSettings settingsOf(const SpriteRecipe& recipe, int flash) {
     RecolourSettings settings;
     settings.baseCol = toColour(playerGrey);
     settings.baseColAny = recipe.anyPixel;
-    if (flash == whiteFigure) {
+    if (flash == Flash::WhiteFigure) {
         settings.newCol = toColour(white);
         return settings;
     }
@@ -56,7 +53,7 @@ RecolourSettings settingsOf(const SpriteRecipe& recipe, int flash) {
         settings.newCol = recipe.colour;
         settings.doDarkCol = true;
     }
-    if (flash == whiteOutline) {
+    if (flash == Flash::WhiteOutline) {
         settings.outlineCol = toColour(white);
     } else if (accessibility.outlineEnabled) {
         settings.outlineCol = toColour(accessibility.outlineCol);

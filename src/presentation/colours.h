@@ -6,6 +6,6 @@
 namespace vandrel {
 
 inline constexpr RGB black{0, 0, 0};
-inline constexpr RGB white{255, 255, 255};  // of the texts of the screens
+inline constexpr RGB white{255, 255, 255};
 
 }  // namespace vandrel
