@@ -9,6 +9,8 @@ namespace vandrel {
 
 namespace {
 
+static_assert(bonusCount == Bonus::UltraBomb + 1);
+
 using Weights = std::array<int, bonusCount>;
 
 //                               0   1   2   3  4  5   6   7   8  9  10 11 12 13 14 15 16 17 18 19 20 21

@@ -17,6 +17,7 @@
 #include "arena/explosion.h"
 #include "arena/flag.h"
 #include "arena/square_score.h"
+#include "match/options/game_options.h"
 #include "presentation/music.h"
 #include "presentation/toasts.h"
 #include "replay/unit/packaged_replay_data.h"
@@ -172,9 +173,9 @@ class Game {
     int hillTop = 0;
     int hillRight = 0;
     int hillBottom = 0;
-    bool shrinkAllowed = true;    // the warning never ends while this is false
-    int aiSnakeCountdown = -999;  // until the next snake of the computer
-    int aiSnakesLeft = -999;      // still to come
+    bool shrinkAllowed = true;           // the warning never ends while this is false
+    int aiSnakeCountdown = notResolved;  // until the next snake of the computer
+    int aiSnakesLeft = notResolved;      // still to come
     int nextAISnakeNumber = 120;
     int nextWaveId = 0;
     std::vector<Flag> flags;

@@ -10,6 +10,7 @@
 #include "arena/game.h"
 #include "base/checked.h"
 #include "match/options/game_options.h"
+#include "match/options/name_tables.h"
 #include "players/player.h"
 
 namespace vandrel {
@@ -196,13 +197,15 @@ struct ListReach {
     int c;
 };
 
+// How far from the middle and from the corners the last starts of the list stand, in squares. `arenaSize` is an index
+// of `arenaSizes`; only those that have the room put them farther out.
 ListReach listReach(int arenaSize) {
     switch (arenaSize) {
-        case 4:
+        case largeArena:
             return {6, 4, 4};
-        case 6:
+        case hugeArena:
             return {10, 6, 6};
-        case 7:
+        case colossalArena:
             return {16, 10, 14};
         default:
             return {4, 2, 2};

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "match/options/name_tables.h"
+
 namespace vandrel {
 
 namespace {
@@ -14,10 +16,6 @@ struct SizeRow {
     LobbySize size;
 };
 
-constexpr int normalArena = 3;
-constexpr int largeArena = 4;
-constexpr int largerArena = 5;
-constexpr int hugeArena = 6;
 constexpr std::array<SizeRow, 4> sizes{{
     {40, 40, {hugeArena, 16}},
     {21, 31, {largerArena, 13}},

@@ -20,8 +20,6 @@ namespace {
 
 using Options = GameOptions;
 
-constexpr int mostQuickStartPlayers = 100;
-
 constexpr std::array<GameMode, 6> plainModes{GameMode::Classic,       GameMode::CaptureTheFlag, GameMode::BattleRoyale,
                                              GameMode::KingOfTheHill, GameMode::SnakeHunter,    GameMode::Deathmatch};
 
@@ -67,9 +65,9 @@ void addStart(VandrelMenu& menu, MenuContext& context, std::string label, GameMo
 // The field holds one less than the players of a quick start, so the name behind "Off" is that of two.
 NameList quickStartNames() {
     auto names = std::make_shared<std::vector<std::string>>();
-    names->reserve(mostQuickStartPlayers);
+    names->reserve(mostPlayers);
     names->emplace_back("Off");
-    for (int count = 2; count <= mostQuickStartPlayers; ++count) {
+    for (int count = 2; count <= mostPlayers; ++count) {
         names->push_back(fmt::format("{} players", count));
     }
     return names;
@@ -98,8 +96,7 @@ std::shared_ptr<VandrelMenu> startGameMenu(MenuContext& context, const MatchStar
     if (showQuickStartOption.get()) {
         menu->addGap();
         menu->addHeading(context.headingX, "Quick start options");
-        menu->addEnum(context.x, "Quick Start", &gameOptions.quickStartPlayers, 0, mostQuickStartPlayers - 1,
-                      quickStartNames());
+        menu->addEnum(context.x, "Quick Start", &gameOptions.quickStartPlayers, 0, mostPlayers - 1, quickStartNames());
     }
     menu->addGap();
     addBack(*menu, context.x, context.stack);

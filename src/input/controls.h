@@ -20,7 +20,7 @@ enum class ControlInput : int {
     ChangeColour = 8,
 };
 
-inline constexpr std::size_t controlInputCount = 9;
+inline constexpr std::size_t controlInputCount = static_cast<std::size_t>(ControlInput::ChangeColour) + 1;
 
 // A device is always held by a shared pointer: a player keeps a device that has gone until the match ends, and the
 // device then answers false.

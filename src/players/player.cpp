@@ -9,12 +9,17 @@
 #include "arena/game.h"
 #include "base/version.h"
 #include "match/options/game_options.h"
+#include "match/options/name_tables.h"
 #include "players/bomb_timing.h"
 #include "players/version_gates.h"
 #include "presentation/play_sample.h"
 #include "shell/log.h"
 
 namespace vandrel {
+
+// The tables of names know nothing of the rooms in which these enumerations stand.
+static_assert(ControlInputNames.size() == controlInputCount);
+static_assert(DeathReasonNames.size() == static_cast<std::size_t>(DeathReason::SnakeBodyPushedWall) + 1);
 
 Reaches reaches;
 
@@ -127,7 +132,6 @@ void Player::reset() {
 
 void Player::startRound() {
     kills = 0;
-    snakeParts.clear();
     particles.clear();
     reset();
     if (gameOptions.startAsSnake) {

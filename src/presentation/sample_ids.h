@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 namespace vandrel {
 
@@ -29,5 +30,6 @@ enum class SampleIds : int {
 inline constexpr std::array<const char*, 18> sampleNames{
     "Beat2", "Blart",      "Cash2",  "CrapDing", "Explosion1", "Fire",  "Flamer",  "FX012",    "HitBass",
     "Gong2", "Pickup_Anh", "Plugin", "Rocket",   "Slide",      "Snake", "Splurge", "Strength", "Wimbaah"};
+static_assert(sampleNames.size() == static_cast<std::size_t>(SampleIds::Wimbaah) + 1);
 
 }  // namespace vandrel

@@ -3,6 +3,7 @@
 #include <allegro5/allegro_ttf.h>
 
 #include <array>
+#include <cstddef>
 #include <stdexcept>
 
 #include "presentation/drawing.h"
@@ -16,7 +17,7 @@ constexpr int wrapWidth = 30;  // characters
 constexpr const char* fontFile = "fonts/OCRA.ttf";
 
 // By `FontId`.
-std::array<ALLEGRO_FONT*, 5> fonts{};
+std::array<ALLEGRO_FONT*, static_cast<std::size_t>(FontId::Font64) + 1> fonts{};
 
 ALLEGRO_FONT*& slotOf(FontId id) {
     return fonts[static_cast<unsigned>(id)];

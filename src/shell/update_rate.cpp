@@ -5,10 +5,6 @@
 
 namespace vandrel {
 
-int frameMultiplierOf(int rate) {
-    return rate == 120 || rate == 144 ? 2 : 1;
-}
-
 void setUpdateRate(int rate, GameOptions& options) {
     options.updaterate = rate;
     options.frameMultiplier = frameMultiplierOf(rate);

@@ -33,6 +33,7 @@ const std::map<int, int> timeBeforeByArena{{1, 1}, {2, 2}, {3, 2},  {4, 2},  {5,
 const std::map<int, int> shrinkSpeedFramesTable{{0, 60}, {1, 32}, {2, 16}, {3, 8}, {4, 4}, {5, 2}};
 const std::map<int, int> timeBeforeFramesTable{{0, 1080}, {1, 2160}, {2, 5400}, {3, 7560}};
 const std::map<int, int> preparationFramesTable{{1, 0}, {2, 200}, {3, 400}, {4, 600}, {5, 1000}};
+const std::map<int, std::pair<int, int>> auctionIntervals{{1, {800, 1200}}, {2, {1200, 2000}}, {3, {2000, 3000}}};
 const std::map<int, int> spawnFramesTable{{1, 0}, {2, 199}, {3, 301}, {4, 401}, {5, 501}};
 
 bool fiveTimesInSix() {
@@ -76,7 +77,7 @@ class Resolver {
     void resolveAuctions();
 
     GameOptions& options_ = gameOptions;
-    const int r_ = gameOptions.randomness;
+    const int randomness_ = gameOptions.randomness;
     std::mt19937 privateGenerator_ = globalGenerator;  // its draws do not advance the global one
     std::vector<std::string> fragments_;
 };
@@ -86,11 +87,11 @@ int Resolver::drawArenaSize() {
     const bool teamSizes = isTeamMode(mode) || mode == GameMode::SnakeHunter;
     const auto& sizes = teamSizes ? sizeByPlayersTeam : sizeByPlayersSolo;
     const auto found = sizes.upper_bound(options_.numPlayers);
-    int size = found == sizes.end() ? 3 : found->second;
-    const int spread = isTeamMode(mode) && r_ > 0 ? globalInt(r_, r_ + 1) : globalInt(r_, r_);
-    const auto& limits = r_ >= 2 ? playerLimitsWild : playerLimits;
+    int size = found == sizes.end() ? normalArena : found->second;
+    const int spread = isTeamMode(mode) && randomness_ > 0 ? globalInt(randomness_, randomness_ + 1) : randomness_;
+    const auto& limits = randomness_ >= 2 ? playerLimitsWild : playerLimits;
     for (int round = 0; round < 3; ++round) {
-        size = std::clamp(size + globalInt(-r_, spread), 1, 7);
+        size = std::clamp(size + globalInt(-randomness_, spread), 1, colossalArena);
         while (options_.numPlayers < checkedKey(limits, size).first) {
             --size;
         }
@@ -98,11 +99,11 @@ int Resolver::drawArenaSize() {
             ++size;
         }
     }
-    if (size >= 5 && fiveTimesInSix()) {
+    if (size >= largerArena && fiveTimesInSix()) {
         --size;
     }
-    if (size < 3 && (mode == GameMode::SnakeHunter || fiveTimesInSix())) {
-        size = 3;
+    if (size < normalArena && (mode == GameMode::SnakeHunter || fiveTimesInSix())) {
+        size = normalArena;
     }
     return size;
 }
@@ -120,9 +121,9 @@ void Resolver::resolveShrinkSpeed() {
     int speed = options_.shrinkSpeed;
     if (speed == autoShrinkSpeed) {
         speed = checkedKey(shrinkSpeedByArena, arena());
-        for (int i = 0; i < r_; ++i) {
+        for (int i = 0; i < randomness_; ++i) {
             if (globalFloat() > 0.5f) {
-                speed = std::clamp(speed + globalInt(-r_, r_), 0, 5);
+                speed = std::clamp(speed + globalInt(-randomness_, randomness_), 0, 5);
             }
         }
         fragments_.push_back(fmt::format("SSpeed: {:<9}", checkedAt(ShrinkSpeedNames, speed)));
@@ -135,10 +136,10 @@ void Resolver::resolveTimeBeforeShrinking() {
     if (time == autoTimeBeforeShrinking) {
         time = checkedKey(timeBeforeByArena, arena());
         if (options_.gameMode == GameMode::SnakeHunter) {
-            time = arena() < 6 ? 3 : 2;
+            time = arena() < hugeArena ? 3 : 2;
         } else {
             if (globalFloat() > 0.5f) {
-                time = std::clamp(time + globalInt(-r_, r_), 0, 3);
+                time = std::clamp(time + globalInt(-randomness_, randomness_), 0, 3);
             }
             if (time == 3 && options_.shrinkSpeedFrames.value() < 3 && fiveTimesInSix()) {
                 time = 2;
@@ -151,18 +152,18 @@ void Resolver::resolveTimeBeforeShrinking() {
 
 int Resolver::drawShrinkStyle() {
     const GameMode mode = options_.gameMode;
-    if (r_ == 0) {
-        const bool mirrored = mode == GameMode::SnakeHunter || options_.arenaSize >= 5 ||
+    if (randomness_ == 0) {
+        const bool mirrored = mode == GameMode::SnakeHunter || options_.arenaSize >= largerArena ||
                               (mode == GameMode::Everything && options_.everythingSnakeHunter);
         return mirrored ? 2 : 1;
     }
     // The frames are compared as they stand, so at a high rate with those already multiplied.
-    auto weight = static_cast<float>(r_);
-    weight += arena() >= 4 ? 0.5f : 0.0f;
+    auto weight = static_cast<float>(randomness_);
+    weight += arena() >= largeArena ? 0.5f : 0.0f;
     weight += options_.shrinkSpeedFrames.value() < 16 ? 1.0f : 0.0f;
     weight += options_.timeBeforeShrinkingFrames.value() > 5400 ? 1.0f : 0.0f;
     weight += mode == GameMode::SnakeHunter ? 1.0f : 0.0f;
-    if (r_ > 1 && privateFloat() > 0.95f) {
+    if (randomness_ > 1 && privateFloat() > 0.95f) {
         return 3;
     }
     return privateFloat() * weight > 0.6f ? 2 : 1;
@@ -184,9 +185,9 @@ void Resolver::resolveGridBlocks() {
         return;
     }
     bool blocks = true;
-    if (r_ == 1) {
+    if (randomness_ == 1) {
         blocks = !(privateFloat() > 0.9f);
-    } else if (r_ >= 2) {
+    } else if (randomness_ >= 2) {
         blocks = !(privateFloat() > 0.7f);
     }
     options_.gridBlocksResolved = blocks;
@@ -199,8 +200,8 @@ void Resolver::resolveWallDensity() {
         return;
     }
     int percent = options_.gameMode == GameMode::SnakeHunter ? 80 : 70;
-    for (int i = 0; i < r_; ++i) {
-        percent += globalInt(-5 * r_, 10 * r_);
+    for (int i = 0; i < randomness_; ++i) {
+        percent += globalInt(-5 * randomness_, 10 * randomness_);
     }
     options_.wallPercent = std::clamp(percent, 0, 100);
     fragments_.push_back(fmt::format("WallPb: {:<4}", options_.wallPercent.value()));
@@ -212,9 +213,9 @@ void Resolver::resolvePowerupDensity() {
         return;
     }
     int percent = options_.gameMode == GameMode::SnakeHunter ? 50 : 40;
-    for (int i = 0; i < r_; ++i) {
+    for (int i = 0; i < randomness_; ++i) {
         if (privateFloat() > 0.8f) {
-            percent += globalInt(-5 * r_, 40 * r_);
+            percent += globalInt(-5 * randomness_, 40 * randomness_);
         }
     }
     options_.powerupPercent = std::clamp(percent, 0, 100);
@@ -245,7 +246,7 @@ void Resolver::resolveSnakes() {
 
     if (options_.maxSnakes != 0) {
         options_.snakesAtOnce = options_.maxSnakes;
-    } else if (options_.snakeCount > 5 && arena() >= 4) {
+    } else if (options_.snakeCount > 5 && arena() >= largeArena) {
         options_.snakesAtOnce = 2;
         if (options_.spawnInterval == 0) {
             options_.snakeSpawnFrames *= 5;
@@ -262,7 +263,7 @@ void Resolver::resolveSearchAndRespawningWalls() {
     options_.aiSearchDepth = blocks ? 15 : 5;
     RespawnWallOptions& walls = options_.respawnWallsResolved;
     walls = checkedAt(options_.respawnWalls, static_cast<int>(options_.gameMode));
-    if (r_ < 2) {
+    if (randomness_ < 2) {
         return;
     }
     // A round that starts empty and fills up.
@@ -284,20 +285,8 @@ void Resolver::resolveSearchAndRespawningWalls() {
 }
 
 void Resolver::resolveAuctions() {
-    switch (options_.auctions) {
-        case 1:
-            options_.auctionInterval = globalInt(800, 1200);
-            break;
-        case 2:
-            options_.auctionInterval = globalInt(1200, 2000);
-            break;
-        case 3:
-            options_.auctionInterval = globalInt(2000, 3000);
-            break;
-        default:
-            options_.auctionInterval = 0;
-            break;
-    }
+    const auto row = auctionIntervals.find(options_.auctions);
+    options_.auctionInterval = row == auctionIntervals.end() ? 0 : globalInt(row->second.first, row->second.second);
 }
 
 }  // namespace

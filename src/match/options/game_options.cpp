@@ -29,4 +29,8 @@ bool isTeamMode(GameMode mode) {
            mode == GameMode::Everything;
 }
 
+int frameMultiplierOf(int rate) {
+    return rate == 120 || rate == 144 ? 2 : 1;
+}
+
 }  // namespace vandrel

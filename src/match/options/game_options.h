@@ -18,8 +18,10 @@ enum class GameMode : int {
     Everything = 6,
 };
 
-inline constexpr int gameModeCount = 7;
+inline constexpr int gameModeCount = static_cast<int>(GameMode::Everything) + 1;
 inline constexpr int bonusCount = 22;
+inline constexpr int mostPlayers = 100;
+inline constexpr int highestUpdateRate = 1'000'000;  // updates a second; far more than any machine makes
 
 // When walls come back: every `interval` frames, once fewer than `startBelow` stand and until `stopAt` do, while more
 // than `minFreeSquares` are free.
@@ -37,6 +39,10 @@ struct RespawnWallOptions {
 inline constexpr int autoShrinkSpeed = 6;
 inline constexpr int autoTimeBeforeShrinking = 4;
 inline constexpr int autoDensity = 21;
+
+// What the resolved fields that are plain numbers hold until the first `automaticOptions`, and in replays from before
+// they were stored.
+inline constexpr int notResolved = -999;
 
 struct GameOptions {
     // Chosen.
@@ -102,10 +108,10 @@ struct GameOptions {
     std::optional<int> wallPercent;
     std::optional<int> powerupPercent;
     std::optional<int> auctionInterval;
-    int snakeSpawnFrames = -999;
-    int snakePreparationFrames = -999;
-    int snakeCount = -999;
-    int snakesAtOnce = -999;
+    int snakeSpawnFrames = notResolved;
+    int snakePreparationFrames = notResolved;
+    int snakeCount = notResolved;
+    int snakesAtOnce = notResolved;
     RespawnWallOptions respawnWallsResolved;
 
   private:
@@ -124,6 +130,9 @@ bool isModeActive(GameMode mode);
 
 // Capture the Flag, Battle Royale, King of the Hill and Everything.
 bool isTeamMode(GameMode mode);
+
+// What values tuned at 60 updates a second are multiplied by: 2 at 120 and 144, else 1.
+int frameMultiplierOf(int rate);
 
 // How long before a respawn its ring is shown, in frames before `frameMultiplier`.
 // It is computed wherever it is read, since it freezes the respawn timer and so belongs to the round's own rate.

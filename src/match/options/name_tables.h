@@ -6,6 +6,8 @@
 #include <array>
 #include <string_view>
 
+#include "match/options/game_options.h"
+
 namespace vandrel {
 
 struct GameModeName {
@@ -14,7 +16,7 @@ struct GameModeName {
     std::string_view internalName;  // in files
 };
 
-inline constexpr std::array<GameModeName, 7> gameModeNames{{
+inline constexpr std::array<GameModeName, gameModeCount> gameModeNames{{
     {"Classic", "Classic", "Standard"},
     {"Capture the Flag", "CTF", "CTF"},
     {"Battle Royale", "Battle Royale", "BattleRoyale"},
@@ -47,6 +49,14 @@ inline constexpr std::array<ArenaSize, 14> arenaSizes{{
     {"UltraWideLarger", 45, 19},
     {"UltraWideHuge", 67, 29},
 }};
+
+// Those that rules and screens go by, as indices of the table.
+inline constexpr int normalArena = 3;
+inline constexpr int largeArena = 4;
+inline constexpr int largerArena = 5;
+inline constexpr int hugeArena = 6;
+inline constexpr int colossalArena = 7;
+static_assert(arenaSizes[normalArena].name == "Normal" && arenaSizes[colossalArena].name == "Colossal");
 
 inline constexpr std::array<std::string_view, 7> ShrinkSpeedNames{"Very Slow", "Slow",   "Normal", "Fast",
                                                                   "Very Fast", "Insane", "Auto"};
@@ -86,7 +96,7 @@ struct BonusName {
     std::string_view displayName;   // on screen
 };
 
-inline constexpr std::array<BonusName, 22> bonusNames{{
+inline constexpr std::array<BonusName, bonusCount> bonusNames{{
     {"None", "None"},
     {"Bomb", "Extra Bomb"},
     {"Range", "Extra Range"},

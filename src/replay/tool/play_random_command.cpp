@@ -16,7 +16,6 @@ namespace vandrel {
 
 namespace {
 
-constexpr int mostPlayers = 100;
 constexpr int defaultFrames = 3600;
 
 struct Request {
@@ -38,20 +37,21 @@ int findName(const Table& table, const std::string& what, const std::string& nam
 }
 
 GameMode findMode(const std::string& name) {
-    const auto shortName = [](const GameModeName& mode) { return mode.shortName; };
-    const auto longName = [](const GameModeName& mode) { return mode.longName; };
-    const auto isLong = [&](const GameModeName& mode) { return boost::iequals(mode.longName, name); };
-    const bool found = std::any_of(gameModeNames.begin(), gameModeNames.end(), isLong);
-    return static_cast<GameMode>(found ? findName(gameModeNames, "mode", name, longName)
-                                       : findName(gameModeNames, "mode", name, shortName));
+    const auto found = std::ranges::find_if(gameModeNames, [&](const GameModeName& mode) {
+        return boost::iequals(mode.longName, name) || boost::iequals(mode.shortName, name);
+    });
+    if (found == gameModeNames.end()) {
+        throw UsageError(fmt::format("there is no mode '{}'", name));
+    }
+    return static_cast<GameMode>(found - gameModeNames.begin());
 }
 
 void setRate(int rate) {
-    if (rate < 1) {
-        throw UsageError("--rate needs a number of at least 1");
+    if (rate < 1 || rate > highestUpdateRate) {
+        throw UsageError(fmt::format("--rate needs a number of at least 1 and at most {}", highestUpdateRate));
     }
     gameOptions.updaterate = rate;
-    gameOptions.frameMultiplier = rate == 120 || rate == 144 ? 2 : 1;
+    gameOptions.frameMultiplier = frameMultiplierOf(rate);
 }
 
 // Leaves only the named powerups to be found.

@@ -30,7 +30,7 @@ constexpr int skinsFrom = replayVersion(0, 95, 7);
 constexpr int coloursFrom = replayVersion(0, 95, 11);
 constexpr int cashFrom = replayVersion(1, 0, 2);
 
-constexpr int mostTeams = 100;
+constexpr int mostTeams = mostPlayers;
 constexpr int highestNumber = replayEndMark - 1;
 constexpr int oldSkinCount = 11;
 constexpr int highestChannel = 255;

@@ -11,10 +11,8 @@ namespace vandrel {
 namespace {
 
 constexpr std::string_view optionsMarker = "@@@";
-constexpr int mostPlayers = 100;
 constexpr int smallestSide = 5;
 constexpr int largestSide = 127;
-constexpr int highestRate = 1'000'000;  // updates a second
 constexpr int highestMultiplier = 100;
 constexpr int lastRecordWithEarlyTime = replayVersion(0, 0, 4);
 
@@ -178,11 +176,10 @@ void modeFields(Fields& fields, GameOptions& options) {
 template <class Fields>
 void snakeFields(Fields& fields, GameOptions& options) {
     constexpr int snakesFrom = replayVersion(0, 95, 13);
-    constexpr int unset = -999;
-    fields.number("snakeCount", options.snakeCount, SinceInt{snakesFrom, unset});
-    fields.number("snakesAtOnce", options.snakesAtOnce, SinceInt{snakesFrom, unset});
-    fields.number("snakePreparationFrames", options.snakePreparationFrames, SinceInt{snakesFrom, unset});
-    fields.number("snakeSpawnFrames", options.snakeSpawnFrames, SinceInt{snakesFrom, unset});
+    fields.number("snakeCount", options.snakeCount, SinceInt{snakesFrom, notResolved});
+    fields.number("snakesAtOnce", options.snakesAtOnce, SinceInt{snakesFrom, notResolved});
+    fields.number("snakePreparationFrames", options.snakePreparationFrames, SinceInt{snakesFrom, notResolved});
+    fields.number("snakeSpawnFrames", options.snakeSpawnFrames, SinceInt{snakesFrom, notResolved});
     fields.flag("snakeHunterRespawn", options.snakeHunterRespawn, SinceBool{replayVersion(0, 95, 22), false});
     fields.byte("snakeSpeed", options.snakeSpeed, anyByte, SinceInt{replayVersion(0, 95, 23), 3});
 }
@@ -213,7 +210,7 @@ void timeFields(Fields& fields, GameOptions& options) {
 // All fields behind the version, in the order of the file.
 template <class Fields>
 void optionFields(Fields& fields, GameOptions& options, Square& arenaSize) {
-    fields.number("updaterate", options.updaterate, Range{1, highestRate}, SinceInt{replayVersion(0, 97, 1), 60});
+    fields.number("updaterate", options.updaterate, Range{1, highestUpdateRate}, SinceInt{replayVersion(0, 97, 1), 60});
     fields.byte("numPlayers", options.numPlayers, Range{1, mostPlayers});
     fields.byte("grid_squares_x", arenaSize.x, Range{smallestSide, largestSide});
     fields.byte("grid_squares_y", arenaSize.y, Range{smallestSide, largestSide});
