@@ -172,10 +172,10 @@ class Player : public std::enable_shared_from_this<Player> {
     int cash = 0;
     int wins = 0;  // rounds won in this match
     int kills = 0;
-    int pingTimer = 0;                          // radius of the locator ring, pixels
-    std::deque<Vector2Base<int>> snakeHistory;  // every pixel the head was at, oldest first, no two equal neighbours
-    std::deque<SnakePart> snakeParts;           // nearest the head first
-    int crawlTimer = 0;                         // frames until crawling ends by itself; 0 waits for rescue
+    int pingTimer = 0;                 // radius of the locator ring, pixels
+    std::deque<Pixel> snakeHistory;    // every pixel the head was at, oldest first, no two equal neighbours
+    std::deque<SnakePart> snakeParts;  // nearest the head first
+    int crawlTimer = 0;                // frames until crawling ends by itself; 0 waits for rescue
     bool isAI = false;
     std::vector<PlayerParticle> particles;
     int trailTimer = 0;
@@ -251,7 +251,6 @@ class Player : public std::enable_shared_from_this<Player> {
     void takeSpeed(std::string& suffix);
     void takeGhost();
     void takeDeath();
-    void takeSnake();
     template <class Effect>
     void forEveryOther(Effect&& effect);
 
