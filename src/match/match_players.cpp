@@ -13,7 +13,7 @@ namespace vandrel {
 
 namespace {
 
-constexpr int setupsFrom = 4;  // the version from which a replay says who plays
+constexpr int setupsFrom = replayVersion(0, 0, 4);  // since when a replay says who plays
 constexpr int looksFrom = replayVersion(0, 95, 5);
 constexpr int cashFrom = replayVersion(1, 0, 2);
 constexpr int mostKingOfTheHillTeams = 4;

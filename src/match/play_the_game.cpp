@@ -9,6 +9,7 @@
 #include "arena/game.h"
 #include "arena/level_generation.h"
 #include "base/checked.h"
+#include "base/version.h"
 #include "frontend/join_screen.h"
 #include "frontend/lootbox_room.h"
 #include "frontend/message_screen.h"
@@ -23,6 +24,7 @@
 #include "match/round_transitions.h"
 #include "players/player.h"
 #include "presentation/ogg_music.h"
+#include "replay/unit/replay_names.h"
 #include "shell/game_screen.h"
 #include "shell/log.h"
 #include "shell/switches.h"
@@ -33,7 +35,7 @@ namespace vandrel {
 
 namespace {
 
-constexpr int teamsInHeaderFrom = 4;  // the version from which a replay brings its own teams
+constexpr int teamsInHeaderFrom = replayVersion(0, 0, 4);  // since when a replay brings its own teams
 
 void logFrameRate() {
     logText(fmt::format("Average FPS: {:.1f}\n", frameRateFigure()));
@@ -146,7 +148,7 @@ Match::RoundResult Match::playRound() {
     if (!isPlayback()) {
         automaticOptions();
     }
-    RoundBeingRecorded recorded(record_ && !isPlayback());
+    RoundBeingRecorded recorded(record_ && !isPlayback() ? newReplayName() : std::string());
     const PackagedReplayData data = isPlayback() ? replay_->data(record_) : recorded.data();
     Game game(data);
     if (!firstRound_ && !isPlayback() && gameOptions.randomnessIncrease != 0 && gameOptions.randomness < 2) {
@@ -211,6 +213,8 @@ bool Match::play() {
         result = playRound();
     }
     if (result == RoundResult::NoSpace) {
+        // Nothing is put back: the next match begins with the options that did not fit, and its entry lets the players
+        // go.
         return true;
     }
     leave();

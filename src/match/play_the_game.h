@@ -30,9 +30,10 @@ struct MatchWorld {
     std::function<void(const std::string& text)> showNoSpace;
 };
 
-// Plays a match by `gameOptions`, or the round of the replay named `replayName`. The options are put back at the end.
-// True if the match was left by quitting, in the lobby too, or an arena could not be filled; false if it ran to its
-// end. The caller then brings back the menu's music and screen and releases the sprite cache.
+// Plays a match by `gameOptions`, or the round of the replay named `replayName`. The options are put back at the end,
+// but stay as they are where an arena could not be filled. True if the match was left by quitting, in the lobby too, or
+// an arena could not be filled; false if it ran to its end. The caller then brings back the menu's music and screen and
+// releases the sprite cache.
 bool play_the_game(bool record, const std::string& replayName, ReplayTestOptions testOptions);
 
 // The same in the given world: without a display, a sound device or a clock, if that needs none.

@@ -4,7 +4,6 @@
 #include "base/checked.h"
 #include "match/options/game_options.h"
 #include "match/options/name_tables.h"
-#include "replay/unit/replay_names.h"
 #include "replay/unit/streams.h"
 #include "replay/unit/verification.h"
 #include "replay/unit/verify_files.h"
@@ -50,15 +49,9 @@ PackagedReplayData ReplayBeingPlayed::data(bool record) {
 void ReplayBeingPlayed::finish(bool cameToItsEnd) {
     file_.close();
     if (cameToItsEnd) {
-        PackagedReplayData data;
-        data.playback = true;
-        data.version = version_;
-        data.inputVerify = verify_;
-        verifyEnd(data);
+        verifyEnd(data(false));
     }
 }
-
-RoundBeingRecorded::RoundBeingRecorded(bool record) : RoundBeingRecorded(record ? newReplayName() : std::string()) {}
 
 RoundBeingRecorded::RoundBeingRecorded(const std::string& name) : record_(!name.empty()), name_(name) {
     if (!record_) {

@@ -35,13 +35,12 @@ class ReplayBeingPlayed {
     std::shared_ptr<std::istream> verify_;
 };
 
-// A round being recorded, or, made with `record` off, one that writes nothing.
+// A round being recorded, or, made without a name, one that writes nothing.
 class RoundBeingRecorded {
   public:
-    // Creates the next replay file and its verification text, and writes the header from `gameOptions`, players and
-    // teams. The arena's size is that of the resolved options.
-    explicit RoundBeingRecorded(bool record);
-    // The same with a path of the caller's choice; an empty one records nothing.
+    // Creates the replay file of that path and its verification text, and writes the header from `gameOptions`, players
+    // and teams. The arena's size is that of the resolved options. An empty path records nothing. Throws what the
+    // writing operations throw.
     explicit RoundBeingRecorded(const std::string& name);
 
     PackagedReplayData data();
