@@ -2,6 +2,7 @@
 // bad index throws std::out_of_range "invalid vector subscript", which is fatal.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
@@ -65,7 +66,7 @@ class ActiveSquares {
         for (std::size_t word = 0; word < words_.size(); ++word) {
             std::uint64_t done = 0;
             while (const std::uint64_t left = words_[word] & ~done) {
-                const auto low = static_cast<unsigned>(__builtin_ctzll(left));
+                const auto low = static_cast<unsigned>(std::countr_zero(left));
                 done |= (std::uint64_t{2} << low) - 1U;
                 const std::size_t bit = word * 64 + low;
                 visit(static_cast<int>(bit / height_), static_cast<int>(bit % height_));
