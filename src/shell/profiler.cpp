@@ -15,11 +15,11 @@ void Profiler::start(const std::string& name) {
 double Profiler::stop(const std::string& name) {
     const auto now = std::chrono::steady_clock::now();
     const auto watch = starts.find(name);
-    if (watch == starts.end()) {
+    if (watch == starts.end() || !watch->second) {
         return 0.0;
     }
-    const std::chrono::duration<double> seconds = now - watch->second;
-    starts.erase(watch);
+    const std::chrono::duration<double> seconds = now - *watch->second;
+    watch->second.reset();
     return seconds.count();
 }
 

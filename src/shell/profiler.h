@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <queue>
 #include <string>
 #include <unordered_map>
@@ -14,8 +15,8 @@ class Profiler {
     // Starts the watch of that name, or starts it again.
     void start(const std::string& name);
 
-    // The seconds since `start`; the watch is gone. 0 for a watch that does not run: screens nest, and an inner screen
-    // has stopped the watches of the same names in the middle of the outer one's update.
+    // The seconds since `start`; the watch no longer runs. 0 for a watch that does not run: screens nest, and an inner
+    // screen has stopped the watches of the same names in the middle of the outer one's update.
     double stop(const std::string& name);
 
     // Begins the average of `name` over its last `window` samples, or begins it again.
@@ -32,7 +33,8 @@ class Profiler {
         int window = 0;
     };
 
-    std::unordered_map<std::string, std::chrono::steady_clock::time_point> starts;
+    // A watch that stands is kept, so that a frame that starts it again allocates nothing.
+    std::unordered_map<std::string, std::optional<std::chrono::steady_clock::time_point>> starts;
     std::unordered_map<std::string, Average> averages;
 };
 
