@@ -1,6 +1,7 @@
 #include "frontend/lootbox_show.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "match/options/game_options.h"
 #include "presentation/play_sample.h"
@@ -67,7 +68,9 @@ void LootboxShow::update(const std::function<bool()>& spacePressed) {
 
 void LootboxShow::count() {
     if (shownPoints_ < lootboxPoints) {
-        shownPoints_ = std::min(lootboxPoints, shownPoints_ + static_cast<int>(step_));
+        // The total comes from a file, so it may be any number.
+        const std::int64_t next = std::int64_t{shownPoints_} + static_cast<int>(step_);
+        shownPoints_ = static_cast<int>(std::min<std::int64_t>(lootboxPoints, next));
         playSample(SampleIds::Cash2);
         timer_ = delay_;
         quicken();

@@ -2,6 +2,7 @@
 #include <fmt/format.h>
 
 #include <array>
+#include <limits>
 #include <string>
 
 #include "arena/bonus.h"
@@ -217,7 +218,7 @@ void Player::takeGhost() {
 void Player::takeCash(std::string& suffix) {
     ++cash;
     suffix = fmt::format(" ({})", cash);
-    if (!game->replay.playback) {
+    if (!game->replay.playback && lootboxPoints < std::numeric_limits<int>::max()) {
         ++lootboxPoints;
     }
 }

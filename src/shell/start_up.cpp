@@ -83,7 +83,7 @@ StartSettings readSettings() {
     settings.adapter = getConfigInt("video", "display", ALLEGRO_DEFAULT_DISPLAY_ADAPTER);
     constexpr int normalRate = 60;
     gameOptions.updaterate = getConfigInt("video", "updaterate", normalRate);
-    if (gameOptions.updaterate < 1) {
+    if (gameOptions.updaterate < 1 || gameOptions.updaterate > highestUpdateRate) {
         gameOptions.updaterate = normalRate;  // there is no timer of such a rate
     }
     settings.soundEffectsVolume = getConfigInt("sound", "soundEffectsVolume", 60);
