@@ -5,6 +5,7 @@
 #include <boost/algorithm/string.hpp>
 #include <charconv>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 #include "replay/tool/commands.h"
@@ -49,7 +50,7 @@ int run(const Words& words) {
 // 12.1.1.2.replay stands behind 2.1.1.2.replay.
 bool comesBefore(const std::filesystem::path& a, const std::filesystem::path& b) {
     const auto key = [](const std::filesystem::path& path) {
-        return std::make_pair(std::atoi(path.filename().c_str()), path.string());
+        return std::make_pair(std::strtol(path.filename().c_str(), nullptr, 10), path.string());
     };
     return key(a) < key(b);
 }

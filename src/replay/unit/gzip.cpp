@@ -48,12 +48,15 @@ std::string gzipCompress(std::string_view bytes) {
     const std::unique_ptr<z_stream, int (*)(z_stream*)> end(&stream, deflateEnd);
     setInput(stream, bytes);
     std::string output;
-    do {
+    int result = Z_OK;
+    while (result == Z_OK) {
         output.resize(output.size() + bytes.size() / 2 + spareOutput);
         setOutput(stream, output);
-        deflate(&stream, Z_FINISH);
-        // Room that is left means that the last block is out, too.
-    } while (stream.avail_out == 0);
+        result = deflate(&stream, Z_FINISH);
+    }
+    if (result != Z_STREAM_END) {
+        throw std::runtime_error(messageOf(stream, result));
+    }
     output.resize(stream.total_out);
     return output;
 }

@@ -7,8 +7,7 @@
 
 namespace vandrel {
 
-// One gzip member that holds `bytes`. Throws std::runtime_error above 2,000,000,000 bytes, or if the compressor cannot
-// start.
+// One gzip member that holds `bytes`. Throws std::runtime_error above 2,000,000,000 bytes, or if the compressor fails.
 std::string gzipCompress(std::string_view bytes);
 
 // The most that is ever decompressed, in bytes.
