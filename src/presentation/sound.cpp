@@ -88,8 +88,11 @@ float panOf(int pan) {
 void startSample(SampleIds id, int volume, int pan, int speed) {
     const std::lock_guard lock(sampleMutex);
     SampleInstance instance(al_create_sample_instance(checkedAt(samples, static_cast<int>(id))));
-    al_set_sample_instance_speed(instance.get(), static_cast<float>(speed) / 1000.0f);
-    al_set_sample_instance_gain(instance.get(), static_cast<float>(volume) / 255.0f);
+    if (instance == nullptr) {
+        throw std::runtime_error("al_create_sample_instance failed");
+    }
+    al_set_sample_instance_speed(instance.get(), static_cast<float>(speed) / normalSampleSpeed);
+    al_set_sample_instance_gain(instance.get(), static_cast<float>(volume) / fullVolume);
     al_set_sample_instance_pan(instance.get(), panOf(pan));
     std::deque<SampleInstance>& queue = checkedAt(playingSamples, static_cast<int>(id));
     while (queue.size() >= instancesPerSample) {
