@@ -1,4 +1,4 @@
-// The one arena: its layers, the players and the teams in it, and the three ways from pixels to squares, which are not
+// The one arena: its layers, the players and the teams in it, and the ways from pixels to squares, which are not
 // interchangeable. It outlives rounds; each round's set-up fills it anew.
 #pragma once
 

@@ -15,8 +15,9 @@ int gameRand();
 // Sets the state of `gameRand`. Before the first call it is 1.
 void seedGameRand(std::uint32_t seed);
 
-// The automatic options and the rise of the randomness draw from this one. It is never seeded beyond its default 5489,
-// so its sequence is the same from run to run of the same actions.
+// The automatic options, the rise of the randomness and the flights of winners draw from this one. The game never seeds
+// it beyond its default 5489, so its sequence is the same from run to run of the same actions; only a round that is
+// recorded by chance does.
 extern std::mt19937 globalGenerator;
 
 // Sparks and other things that are only looked at. Seed 0.

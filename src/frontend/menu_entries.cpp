@@ -51,7 +51,7 @@ CmdButtonEnum::CmdButtonEnum(int left, int top, int height, Label text, int* val
 }
 
 std::string CmdButtonEnum::valueText() const {
-    const auto index = static_cast<std::size_t>(value());  // of a negative value beyond every table
+    const auto index = static_cast<std::size_t>(value());  // a negative value lands beyond every table
     return index < names_->size() ? (*names_)[index] : CmdButtonInt::valueText();
 }
 

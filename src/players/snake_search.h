@@ -37,8 +37,8 @@ class SnakeBoard {
     enum class Kind : unsigned char { Open, Stop, Head, Outside };
 
     struct Cell {
-        int score =
-            0;  // what a path gains that ends here: the loss where it must, else the gain as the very last square
+        // What a path gains that ends here: the loss where it must, else the gain as the very last square.
+        int score = 0;
         int worth = 0;           // of the human here, once more for each step that is left
         unsigned char ends = 0;  // path ends counted with this as the very last square
         Kind kind = Kind::Outside;

@@ -13,7 +13,7 @@ class Music {
 
     // `volume` is 0 to 255.
     virtual void setVolume(int volume) = 0;
-    // Moves the volume in a straight line to `volume` (0 to 255) within `seconds`.
+    // Moves the volume in a straight line to `volume` (0 to 255) within `seconds`, more than 0.
     virtual void fadeTo(float seconds, int volume) = 0;
     virtual void stop() = 0;
 };

@@ -13,7 +13,7 @@ struct InputRecord {
     bool button2 = false;
 };
 
-// Writes the record of player `num` and hands it to the system. Throws as the writing operations of the streams do.
+// Writes the record of player `num` and flushes it. Throws as the writing operations of the streams do.
 void writeInputRecord(const PackagedReplayData& replayData, int num, int xDir, int yDir, bool fire, bool button2);
 
 // Reads the record of player `num`. Throws the int 119 where the end mark stands in its place, a failed assertion for

@@ -31,7 +31,8 @@ void writeByte(std::ostream* stream, int value);
 void writeBool(std::ostream* stream, bool value);
 void writeInt(std::ostream* stream, int value);
 void writeMarker(std::ostream* stream, std::string_view text);
-// Hands all that was written to the system, so that nothing is lost if the process dies. Throws std::ios_base::failure.
+// Hands all that was written to the system, so that nothing is lost if the process dies; what goes to a `RoundWriter`
+// waits for the end of the update. Throws std::ios_base::failure.
 void flushWritten(std::ostream* stream);
 
 // Where the replay being played stands, in bytes, for the texts of failures; -1 if there is none.
