@@ -75,20 +75,28 @@ void bringUpPlatform() {
               VANDREL_BUILD_TIME);
 }
 
-StartSettings readSettings() {
+StartSettings readStartSettings() {
     StartSettings settings;
-    vsyncEnabled = getConfigBool("video", "vsync", false);
     settings.display.width = getConfigInt("video", "width", 0);
     settings.display.height = getConfigInt("video", "height", 0);
+    settings.display.windowed = getConfigBool("video", "windowed", false);
     settings.adapter = getConfigInt("video", "display", ALLEGRO_DEFAULT_DISPLAY_ADAPTER);
-    constexpr int normalRate = 60;
-    gameOptions.updaterate = getConfigInt("video", "updaterate", normalRate);
-    if (gameOptions.updaterate < 1 || gameOptions.updaterate > highestUpdateRate) {
-        gameOptions.updaterate = normalRate;  // there is no timer of such a rate
-    }
     settings.soundEffectsVolume = getConfigInt("sound", "soundEffectsVolume", 60);
     settings.musicVolume = getConfigInt("sound", "musicVolume", 100);
-    settings.display.windowed = getConfigBool("video", "windowed", false);
+    return settings;
+}
+
+int readUpdateRate() {
+    constexpr int normalRate = 60;
+    const int rate = getConfigInt("video", "updaterate", normalRate);
+    // There is no timer of any other rate.
+    return rate >= 1 && rate <= highestUpdateRate ? rate : normalRate;
+}
+
+// What lasts as long as the process.
+void readSwitches() {
+    vsyncEnabled = getConfigBool("video", "vsync", false);
+    gameOptions.updaterate = readUpdateRate();
     menuControlMode = getConfigInt("controls", "menuControlMode", MenuControlMode::KeyboardAndAnyController);
     xinputDpadEnabled = getConfigBool("controls", "xinputDpadEnabled", true);
     diagnostic = getConfigBool("other", "diagnostic", false);
@@ -99,7 +107,6 @@ StartSettings readSettings() {
     lootboxesEnabled = getConfigBool("lootbox", "lootboxesEnabled", true);
     lootboxPoints = getConfigInt("lootbox", "lootboxPoints", 0);
     steamInputEnabled = false;
-    return settings;
 }
 
 void readDesktopSize() {
@@ -169,7 +176,8 @@ void init(int argc, const char* const* argv) {
     bringUpPlatform();
     logText("Getting config settings\n");
     openConfig(appDataDir() + "/vandrel.cfg");
-    const StartSettings settings = readSettings();
+    const StartSettings settings = readStartSettings();
+    readSwitches();
     if (autoLoadAccessibility.get()) {
         loadAccessibility(accessibility);
     }
