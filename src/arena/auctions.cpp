@@ -12,6 +12,7 @@
 #include "match/options/game_options.h"
 #include "match/options/name_tables.h"
 #include "players/player.h"
+#include "replay/unit/field_check.h"
 #include "replay/unit/streams.h"
 #include "shell/assertion.h"
 #include "shell/log.h"
@@ -37,7 +38,7 @@ int drawLot(const PackagedReplayData& replay) {
         logText("Get auction powerup from replay\n");
         const char c = static_cast<char>(readByte(replay.input));
         VANDREL_CHECK(c == 'A', "c == 'A'");
-        return readSignedByte(replay.input);
+        return checkedField("auction bonus", readSignedByte(replay.input), 0, bonusCount - 1);
     }
     const int bonus = chooseBonus(true);
     if (replay.writes()) {

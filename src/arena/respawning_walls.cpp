@@ -10,6 +10,7 @@
 #include "base/version.h"
 #include "match/options/game_options.h"
 #include "players/player.h"
+#include "replay/unit/field_check.h"
 #include "replay/unit/streams.h"
 #include "shell/assertion.h"
 #include "shell/log.h"
@@ -82,7 +83,7 @@ void Game::standWall(const PendingWall& wall) {
         }
         const char c = static_cast<char>(readByte(replay.input));
         VANDREL_CHECK(c == 'B', "c == 'B'");
-        const int bonus = readSignedByte(replay.input);
+        const int bonus = checkedField("wall bonus", readSignedByte(replay.input), 0, bonusCount - 1);
         squareGrid.set(square, SquareKind::Wall);
         bonusGrid.at(square) = bonus;
         return;
