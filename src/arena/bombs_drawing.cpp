@@ -70,8 +70,11 @@ RecolourSettings bombSettings() {
 
 void drawFlameLayer(const Game& game, const BitmapWrapper& target, int layer) {
     for (const Explosion& explosion : game.explosions) {
+        if (explosion.layer != layer) {
+            continue;
+        }
         const std::shared_ptr<Player> owner = explosion.owner.lock();
-        if (explosion.layer != layer || !owner) {
+        if (!owner) {
             continue;
         }
         const BitmapIds first = owner->annihilator ? Explo1A : Explo1;
