@@ -29,7 +29,7 @@ void drawRows(const std::vector<std::string>& rows) {
 
 }  // namespace
 
-bool msgScreen(std::vector<std::string> lines, int okKey, int cancelKey) {
+bool msgScreen(const std::vector<std::string>& lines, int okKey, int cancelKey) {
     std::vector<std::string> rows;
     boost::algorithm::split(rows, fmt::format("{}", fmt::join(lines, "\n")), [](char c) { return c == '\n'; });
     bool ok = false;

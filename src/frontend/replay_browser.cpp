@@ -28,7 +28,7 @@ void showErrors(const std::vector<std::string>& errors) {
     std::vector<std::string> lines{"Error:"};
     lines.insert(lines.end(), errors.begin(), errors.end());
     lines.emplace_back("Press ENTER to exit");
-    msgScreen(std::move(lines), ALLEGRO_KEY_ENTER, noCancelKey);
+    msgScreen(lines, ALLEGRO_KEY_ENTER, noCancelKey);
 }
 
 // The row stays until the list is made anew, so that nothing moves under the cursor.
