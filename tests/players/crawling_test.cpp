@@ -1,43 +1,40 @@
 // Crawling in Battle Royale: how it begins, rescue by a team-mate, and the end of a team of which nobody can rescue.
 #include <gtest/gtest.h>
 
-#include "support/round_fixture.h"
+#include "players/in_words.h"
 
 namespace vandrel {
 namespace {
 
+// Two teams, each with its base.
+struct BattleRoyale : TestRound {
+    explicit BattleRoyale(int rate = 60) : TestRound({.rate = rate, .mode = GameMode::BattleRoyale}) {
+        addTeam({1, 5});
+        addTeam({13, 5});
+    }
+};
+
 class Rescue : public testing::Test {
   protected:
-    Rescue() : round({.mode = GameMode::BattleRoyale}) {
-        round.addTeam({1, 5});
-        round.addTeam({13, 5});
-        mate = round.addPlayer({6, 5}, 0);
-        fallen = round.addPlayer({5, 5}, 0);
-        rival = round.addPlayer({5, 5}, 1);
-        fallen->crawling = true;
-    }
-
-    TestRound round;
-    std::shared_ptr<Player> mate;
-    std::shared_ptr<Player> fallen;
-    std::shared_ptr<Player> rival;
+    BattleRoyale round;
+    std::shared_ptr<Player> mate = round.addPlayer({6, 5}, 0);
+    std::shared_ptr<Player> fallen = round.addPlayer({5, 5}, 0);
+    std::shared_ptr<Player> rival = round.addPlayer({5, 5}, 1);
+    Rescue() { fallen->crawling = true; }
 };
 
 TEST(Crawling, FollowsAHitInBattleRoyaleAndASecondHitKills) {
     for (const int rate : {60, 120}) {
-        TestRound round({.rate = rate, .mode = GameMode::BattleRoyale});
-        round.addTeam({1, 5});
-        round.addTeam({13, 5});
+        BattleRoyale round(rate);
         const auto player = round.addPlayer({5, 5}, 0);
         round.addPlayer({9, 9}, 0);
         const auto killer = round.addPlayer({1, 1}, 1);
         player->animFrame = 4;
         player->facing = Facing::Up;
         player->remoteActive = true;
-        placeBomb({9, 5}, player, 50);
-        bombGrid.edit(9, 5).kind = BombKind::Armed;
+        placeBombOf(BombKind::Armed, {9, 5}, player);
         player->hurt(DeathReason::Explosion, round.replay(), killer);
-        EXPECT_TRUE(player->crawling && player->shield && !player->dead);
+        EXPECT_EQ(formOf(*player), "crawling, shielded");
         EXPECT_EQ(player->crawlTimer, 0);
         EXPECT_EQ(player->shieldTimer, 120 * gameOptions.frameMultiplier);
         EXPECT_EQ(player->animFrame, 1);
@@ -46,7 +43,7 @@ TEST(Crawling, FollowsAHitInBattleRoyaleAndASecondHitKills) {
         EXPECT_EQ(bombGrid.at(9, 5).kind, BombKind::Ticking);
         EXPECT_EQ(killer->kills, 0) << "nobody is credited";
         round.step(120 * gameOptions.frameMultiplier + 1);
-        EXPECT_FALSE(player->shield);
+        EXPECT_EQ(formOf(*player), "crawling");
         player->hurt(DeathReason::Explosion, round.replay(), killer);
         EXPECT_TRUE(player->dead);
         EXPECT_EQ(killer->kills, 1);
@@ -67,39 +64,30 @@ TEST_F(Rescue, TakesAHundredAndEightyFramesInARowAndBeginsAnewOnceItIsBrokenOff)
 }
 
 TEST_F(Rescue, NeedsALivingUprightTeamMateInReach) {
-    struct Row {
-        const char* what;
-        void (*change)(Player& mate);
+    struct Row : Who {
         bool helps;
     };
     const Row rows[] = {
-        {"on the next square", [](Player&) {}, true},
-        {"a pixel farther", [](Player& p) { p.x += 1; }, false},
-        {"off the axis by a pixel", [](Player& p) { p.y += 1; }, false},
-        {"on the same square", [](Player& p) { p.x = 160; }, true},
-        {"dead", [](Player& p) { p.dead = true; }, false},
-        {"crawling too",
-         [](Player& p) {
-             p.crawling = true;
-             p.crawlTimer = 500;
-         },
-         false},
-        {"a ghost", [](Player& p) { p.ghost = true; }, true},
-        {"of the other team", [](Player& p) { p.x += 64; }, false},
+        {{"on the next square", asItIs}, true},
+        {{"a pixel farther", [](Player& p) { p.x += 1; }}, false},
+        {{"off the axis by a pixel", [](Player& p) { p.y += 1; }}, false},
+        {{"on the same square", [](Player& p) { p.x = 160; }}, true},
+        {{"dead", asDead}, false},
+        {{"crawling too", asCrawler}, false},
+        {{"a ghost", asGhost}, true},
+        {{"of the other team", [](Player& p) { p.x += 64; }}, false},
     };
     for (const Row& row : rows) {
-        for (const auto& member : {mate, fallen}) {
-            member->reset();
-        }
-        fallen->crawling = true;
+        mate->reset();
         mate->x = 192;
         mate->y = 160;
-        row.change(*mate);
+        row.make(*mate);
+        fallen->reviveProgress = 0;
         for (int i = 0; i < 3; ++i) {
             fallen->update(round.replay(), &round.game(), false);
         }
-        EXPECT_EQ(fallen->reviveProgress, row.helps ? 3 : 0) << row.what;
-        EXPECT_TRUE(fallen->crawling && !fallen->dead);
+        EXPECT_EQ(fallen->reviveProgress, row.helps ? 3 : 0) << row.who;
+        EXPECT_EQ(formOf(*fallen), "crawling") << row.who;
     }
 }
 
@@ -110,63 +98,45 @@ TEST_F(Rescue, CountsOncePerFrameHoweverManyHelp) {
     EXPECT_EQ(fallen->reviveProgress, 10);
 }
 
-TEST(Crawling, OfAnEndedSnakeNeedsNoRescueAndGetsNone) {
-    TestRound round({.mode = GameMode::Classic});
-    const auto player = round.addPlayer({5, 5});
-    player->crawling = true;
-    player->crawlTimer = 3;
-    round.step(2);
-    EXPECT_TRUE(player->crawling);
-    round.step();
-    EXPECT_FALSE(player->crawling);
-}
-
 TEST(CrawlingTeams, DieOutWhenNobodyIsLeftToRescue) {
-    enum class Is { Up, Crawling, CrawlingForAWhile, Dead };
+    const auto waitForHelp = [](Player& p) { p.crawling = true; };
     struct Row {
-        Is first;
-        Is second;
-        bool diesOut;
+        const char* what;
+        void (*first)(Player& player);
+        void (*second)(Player& player);
+        bool firstDies;
+        bool secondDies;
     };
-    constexpr Row rows[] = {
-        {Is::Crawling, Is::Crawling, true},
-        {Is::Crawling, Is::Dead, true},
-        {Is::Crawling, Is::Up, false},
-        {Is::Crawling, Is::CrawlingForAWhile, false},
-        {Is::CrawlingForAWhile, Is::Dead, false},
-    };
-    const auto make = [](Player& player, Is is) {
-        player.dead = is == Is::Dead;
-        player.crawling = is == Is::Crawling || is == Is::CrawlingForAWhile;
-        player.crawlTimer = is == Is::CrawlingForAWhile ? 500 : 0;
+    const Row rows[] = {
+        {"both wait", waitForHelp, waitForHelp, true, true},
+        {"the other is dead", waitForHelp, asDead, true, true},
+        {"the other is up", waitForHelp, asItIs, false, false},
+        {"the other gets up by itself", waitForHelp, asCrawler, false, false},
+        {"it gets up by itself, the other is dead", asCrawler, asDead, false, true},
     };
     for (const Row& row : rows) {
-        TestRound round({.mode = GameMode::BattleRoyale});
-        round.addTeam({1, 5});
-        round.addTeam({13, 5});
+        BattleRoyale round;
         round.addTeam({7, 1});
         const auto first = round.addPlayer({5, 5}, 0);
         const auto second = round.addPlayer({11, 5}, 0);
         const auto other = round.addPlayer({9, 9}, 1);
-        make(*first, row.first);
-        make(*second, row.second);
+        row.first(*first);
+        row.second(*second);
         round.step();
-        EXPECT_EQ(first->dead, row.diesOut || row.first == Is::Dead);
-        EXPECT_EQ(second->dead, row.diesOut || row.second == Is::Dead);
-        EXPECT_FALSE(other->dead);
+        EXPECT_EQ(first->dead, row.firstDies) << row.what;
+        EXPECT_EQ(second->dead, row.secondDies) << row.what;
+        EXPECT_FALSE(other->dead) << row.what;
     }
 }
 
 TEST(CrawlingTeams, TwoThatFallInOneFrameDieInThatFrame) {
-    TestRound round({.mode = GameMode::BattleRoyale});
+    BattleRoyale round;
     for (int team = 0; team < 2; ++team) {
-        round.addTeam({1 + 12 * team, 5});
         round.addPlayer({5 + team, 5}, team);
         squareGrid.set(5 + team, 5, SquareKind::Wall);
     }
     round.step();
-    EXPECT_TRUE(players[0]->dead);
-    EXPECT_TRUE(players[1]->dead);
+    EXPECT_TRUE(players[0]->dead && players[1]->dead);
 }
 
 }  // namespace

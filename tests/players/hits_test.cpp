@@ -3,89 +3,78 @@
 
 #include <cstdlib>
 
-#include "support/round_fixture.h"
+#include "players/in_words.h"
 
 namespace vandrel {
 namespace {
 
-// A single flame of the owner that burns on the square for as long as its timer runs.
-void lightFlame(TestRound& round, Square square, const std::shared_ptr<Player>& owner, bool flamethrower = false) {
-    Explosion flame;
-    flame.owner = owner;
-    flame.x = square.x;
-    flame.y = square.y;
-    flame.timer = 1000;
-    flame.isFlamethrower = flamethrower;
-    round.game().explosions.push_back(flame);
-}
+// A killer far off and a player in the middle of it all.
+class Hits : public testing::Test {
+  protected:
+    // A single flame of the owner that burns on the player's square for as long as a test looks.
+    void lightFlame(const std::shared_ptr<Player>& owner, bool flamethrower = false) {
+        Explosion flame;
+        flame.owner = owner;
+        flame.x = flame.y = 5;
+        flame.timer = 1000;
+        flame.isFlamethrower = flamethrower;
+        round.game().explosions.push_back(flame);
+    }
+    void hit() { player->hurt(DeathReason::Explosion, round.replay(), killer); }
 
-void shieldForGood(Player& player) {
-    player.shield = true;
-    player.shieldTimer = Player::lastingShield();
-}
+    TestRound round;
+    std::shared_ptr<Player> killer = round.addPlayer({1, 1});
+    std::shared_ptr<Player> player = round.addPlayer({5, 5});
+};
 
-TEST(Hits, AFlameHurtsWhoeverHasTheMiddleOnItsSquare) {
+TEST_F(Hits, OfAFlameAreForWhoeverHasTheMiddleOnItsSquareAndForNoGhost) {
     struct Row {
         int offset;
+        bool ghost;
         bool dies;
     };
-    for (const Row& row : {Row{0, true}, Row{15, true}, Row{16, false}, Row{-16, true}, Row{-17, false}}) {
-        TestRound round;
-        const auto owner = round.addPlayer({1, 1});
-        const auto player = round.addPlayer({5, 5});
-        player->y += row.offset;
-        lightFlame(round, {5, 5}, owner);
+    lightFlame(killer);
+    for (const Row& row : {Row{0, false, true}, Row{15, false, true}, Row{16, false, false}, Row{-16, false, true},
+                           Row{-17, false, false}, Row{0, true, false}}) {
+        player->reset();
+        player->y = 160 + row.offset;
+        player->ghost = row.ghost;
+        killer->kills = 0;
         round.game().checkPlayerHits();
-        EXPECT_EQ(player->dead, row.dies) << row.offset;
-        EXPECT_EQ(owner->kills, row.dies ? 1 : 0);
+        EXPECT_EQ(player->dead, row.dies) << row.offset << (row.ghost ? ", a ghost" : "");
+        EXPECT_EQ(killer->kills, row.dies ? 1 : 0) << row.offset;
     }
 }
 
-TEST(Hits, PassOverGhostsTheDeadAndOnesOwnFlamethrower) {
-    struct Row {
-        const char* who;
-        void (*make)(Player& player);
-        bool ownThrower;
-        bool otherThrower;
-        bool dies;
-    };
-    const Row rows[] = {
-        {"a walker in its own flame", [](Player&) {}, false, false, true},
-        {"a ghost", [](Player& p) { p.ghost = true; }, false, false, false},
-        {"who sprays", [](Player&) {}, true, false, false},
-        {"who is sprayed", [](Player&) {}, false, true, true},
-    };
-    for (const Row& row : rows) {
-        TestRound round;
-        const auto player = round.addPlayer({5, 5});
-        const auto other = round.addPlayer({1, 1});
-        row.make(*player);
-        lightFlame(round, {5, 5}, row.otherThrower ? other : player, row.ownThrower || row.otherThrower);
-        round.game().checkPlayerHits();
-        EXPECT_EQ(player->dead, row.dies) << row.who;
-    }
+TEST_F(Hits, PassOverOnesOwnFlamethrowerOnly) {
+    lightFlame(player, true);
+    round.game().checkPlayerHits();
+    EXPECT_EQ(formOf(*player), "walking");
+    lightFlame(player);
+    round.game().checkPlayerHits();
+    EXPECT_EQ(player->kills, -1) << "its own other flame";
+    player->reset();
+    round.game().explosions.clear();
+    lightFlame(killer, true);
+    round.game().checkPlayerHits();
+    EXPECT_EQ(formOf(*player), "dead");
 }
 
-TEST(Hits, OnlyTheFirstFlameOnTheSquareIsCredited) {
-    TestRound round;
-    const auto first = round.addPlayer({1, 1});
-    const auto second = round.addPlayer({1, 3});
-    const auto player = round.addPlayer({5, 5});
-    lightFlame(round, {5, 5}, first);
-    lightFlame(round, {5, 5}, second);
+TEST_F(Hits, OnlyTheFirstFlameOnTheSquareIsCredited) {
+    lightFlame(killer);
+    lightFlame(round.addPlayer({1, 3}));
     round.game().checkPlayerHits();
     EXPECT_TRUE(player->dead);
-    EXPECT_EQ(first->kills, 1);
-    EXPECT_EQ(second->kills, 0);
+    EXPECT_EQ(killer->kills, 1);
+    EXPECT_EQ(players[2]->kills, 0);
 }
 
-TEST(Hits, AWallOnTheSquareKillsWithoutCredit) {
+TEST_F(Hits, AWallOnTheSquareKillsWithoutCredit) {
+    const auto ghost = round.addPlayer({5, 5});
+    ghost->ghost = true;
     for (const int kind : {SquareKind::GridBlock, SquareKind::EdgeWall, SquareKind::Wall, SquareKind::HardWallHitTwice,
                            SquareKind::WallCrumbling + 5}) {
-        TestRound round;
-        const auto player = round.addPlayer({5, 5});
-        const auto ghost = round.addPlayer({5, 5});
-        ghost->ghost = true;
+        player->startRound();
         squareGrid.set(5, 5, kind);
         round.game().checkPlayerHits();
         EXPECT_TRUE(player->dead) << kind;
@@ -95,31 +84,22 @@ TEST(Hits, AWallOnTheSquareKillsWithoutCredit) {
     }
 }
 
-TEST(Hits, AGhostWhoseTimeEndsInsideAWallDies) {
-    TestRound round;
-    const auto ghost = round.addPlayer({5, 5});
-    ghost->ghost = true;
-    ghost->shieldTimer = 3;
+TEST_F(Hits, AGhostWhoseTimeEndsInsideAWallDies) {
+    player->ghost = true;
+    player->shieldTimer = 3;
     squareGrid.set(5, 5, SquareKind::Wall);
-    EXPECT_EQ(round.stepUntil([&] { return ghost->dead; }), 4) << "the timer passes 0 first";
+    EXPECT_EQ(round.stepUntil([&] { return player->dead; }), 4) << "the timer passes 0 first";
 }
 
-TEST(Hits, ASnakesHeadEatsAllButGhostsSnakesAndTheShielded) {
-    struct Row {
-        const char* who;
-        void (*make)(Player& player);
+TEST_F(Hits, ASnakesHeadEatsAllButGhostsSnakesAndTheShielded) {
+    const auto snake = round.addSnake({5, 5}, Facing::Up, 4, true);
+    struct Row : Who {
         bool eaten;
     };
-    const Row rows[] = {
-        {"a walker", [](Player&) {}, true},
-        {"a crawler", [](Player& p) { p.crawling = true; }, true},
-        {"a ghost", [](Player& p) { p.ghost = true; }, false},
-        {"a shielded one", [](Player& p) { p.shield = true; }, false},
-    };
-    for (const Row& row : rows) {
-        TestRound round;
-        const auto player = round.addPlayer({5, 5});
-        const auto snake = round.addSnake({5, 5}, Facing::Up, 4, true);
+    for (const Row& row : {Row{{"a walker", asItIs}, true}, Row{{"a crawler", asCrawler}, true},
+                           Row{{"a ghost", asGhost}, false}, Row{{"a shielded one", asShielded}, false}}) {
+        player->reset();
+        snake->kills = 0;
         row.make(*player);
         round.game().checkPlayerHits();
         EXPECT_EQ(player->dead, row.eaten) << row.who;
@@ -128,53 +108,41 @@ TEST(Hits, ASnakesHeadEatsAllButGhostsSnakesAndTheShielded) {
     }
 }
 
-TEST(Hits, TwoHeadsOnASquareAreBothHurtWithoutCredit) {
-    TestRound round;
-    const auto ai = round.addSnake({5, 5}, Facing::Up, 12, true);
-    const auto human = round.addSnake({5, 5}, Facing::Down, 12);
-    const auto far = round.addSnake({9, 5}, Facing::Down, 12);
-    round.game().checkPlayerHits();
-    EXPECT_TRUE(ai->dead);
-    EXPECT_TRUE(human->crawling);
-    EXPECT_TRUE(far->isSnake());
-    EXPECT_EQ(ai->kills + human->kills, 0);
-}
-
 // Flames on a part hurt from the first part on, walls from the second on, and only as far as the snake is long.
-TEST(Hits, OnTheBodyHalveTheSnake) {
+TEST_F(Hits, OnTheBodyHalveTheSnake) {
+    constexpr int flame = -1;
     struct Row {
-        bool flame;
         int kind;
         std::size_t part;
         bool halves;
     };
     constexpr Row rows[] = {
-        {true, 0, 0, true},
-        {true, 0, 11, true},
-        {false, SquareKind::Wall, 0, false},
-        {false, SquareKind::Wall, 1, true},
-        {false, SquareKind::EdgeWall, 11, true},
-        {false, SquareKind::HardWallHitTwice, 5, true},
-        {false, SquareKind::GridBlock, 5, true},
-        {false, SquareKind::WallCrumbling, 5, false},
-        {false, SquareKind::Wall, 12, false},
+        {flame, 0, true},
+        {flame, 11, true},
+        {SquareKind::Wall, 0, false},
+        {SquareKind::Wall, 1, true},
+        {SquareKind::EdgeWall, 11, true},
+        {SquareKind::HardWallHitTwice, 5, true},
+        {SquareKind::GridBlock, 5, true},
+        {SquareKind::WallCrumbling, 5, false},
+        {SquareKind::Wall, 12, false},
     };
+    player->x = 0;
     for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << (row.flame ? "flame" : "wall ") << row.kind << " on part " << row.part);
-        TestRound round;
-        const auto owner = round.addPlayer({1, 1});
+        SCOPED_TRACE(testing::Message() << "kind " << row.kind << " on part " << row.part);
         const auto snake = round.addSnake({8, 8}, Facing::Up, 12, true);
         snake->snakeParts.emplace_back(256, 256, Facing::Up);  // one more than it is long, as after a halving
         snake->snakeParts[row.part] = {5 * 32, 5 * 32, Facing::Up};
-        if (row.flame) {
-            lightFlame(round, {5, 5}, owner);
-        } else {
-            squareGrid.set(5, 5, row.kind);
+        killer->kills = 0;
+        round.game().explosions.clear();
+        squareGrid.set(5, 5, row.kind == flame ? SquareKind::Empty : row.kind);
+        if (row.kind == flame) {
+            lightFlame(killer);
         }
         round.game().checkPlayerHits();
-        EXPECT_EQ(snake->snakeLengthNow(), row.halves ? 6 : 12);
-        EXPECT_EQ(snake->shield, row.halves);
-        EXPECT_EQ(owner->kills, row.flame ? 1 : 0) << "a flame that halves a computer's snake earns a credit";
+        EXPECT_EQ(formOf(*snake), row.halves ? "snake of 6, shielded" : "snake of 12");
+        EXPECT_EQ(killer->kills, row.kind == flame ? 1 : 0) << "half a snake of the computer by a flame earns a credit";
+        players.pop_back();
     }
 }
 
@@ -183,15 +151,16 @@ TEST(Shield, OfLastingKindTakesAHitAndThenRunsForTwoSeconds) {
         TestRound round({.rate = rate});
         const auto owner = round.addPlayer({1, 1});
         const auto player = round.addPlayer({5, 5});
-        shieldForGood(*player);
+        const int twoSeconds = 120 * gameOptions.frameMultiplier;
+        asShielded(*player);
         round.step(1000);
         EXPECT_TRUE(player->shield);
         EXPECT_EQ(player->shieldTimer, Player::lastingShield());
-        player->hurt(DeathReason::Explosion, round.replay(), owner);
-        EXPECT_EQ(player->shieldTimer, 120 * gameOptions.frameMultiplier);
-        player->hurt(DeathReason::Explosion, round.replay(), owner);
-        EXPECT_EQ(player->shieldTimer, 120 * gameOptions.frameMultiplier) << "a second hit changes nothing";
-        EXPECT_EQ(round.stepUntil([&] { return !player->shield; }), 120 * gameOptions.frameMultiplier + 1);
+        for (int hit = 1; hit <= 2; ++hit) {
+            player->hurt(DeathReason::Explosion, round.replay(), owner);
+            EXPECT_EQ(player->shieldTimer, twoSeconds) << "a second hit changes nothing";
+        }
+        EXPECT_EQ(round.stepUntil([&] { return !player->shield; }), twoSeconds + 1);
         EXPECT_FALSE(player->dead);
         player->hurt(DeathReason::Explosion, round.replay(), owner);
         EXPECT_TRUE(player->dead);
@@ -199,30 +168,20 @@ TEST(Shield, OfLastingKindTakesAHitAndThenRunsForTwoSeconds) {
     }
 }
 
-TEST(Shield, RunsOnForTheStoppedAndTheDead) {
-    TestRound round;
-    const auto stopped = round.addPlayer({5, 5});
-    const auto dead = round.addPlayer({7, 5});
-    stopped->stopTimer = 1000;
-    dead->dead = true;
-    for (const auto& player : {stopped, dead}) {
-        player->shield = true;
-        player->shieldTimer = 20;
-    }
+TEST_F(Hits, LeaveTheDeadTheirShieldForAsLongAsItRunsOnly) {
+    player->shield = player->dead = true;
+    player->shieldTimer = 20;
     round.step(20);
-    EXPECT_TRUE(stopped->shield && dead->shield);
+    EXPECT_TRUE(player->shield);
     round.step();
-    EXPECT_FALSE(stopped->shield || dead->shield);
+    EXPECT_FALSE(player->shield);
 }
 
-TEST(Death, LeavesASpriteASoundAndNoSecondDeath) {
-    TestRound round;
-    const auto killer = round.addPlayer({1, 1});
-    const auto player = round.addPlayer({5, 5});
+TEST_F(Hits, ThatKillLeaveASpriteASoundAndNoSecondDeath) {
     player->x += 3;
     player->animFrame = 5;
-    player->hurt(DeathReason::Explosion, round.replay(), killer);
-    player->hurt(DeathReason::Explosion, round.replay(), killer);
+    hit();
+    hit();
     EXPECT_EQ(killer->kills, 1);
     EXPECT_EQ(round.takeHeard(), (std::vector<HeardSample>{{SampleIds::Wimbaah}}));
     ASSERT_EQ(player->particles.size(), 1U);
@@ -235,29 +194,14 @@ TEST(Death, LeavesASpriteASoundAndNoSecondDeath) {
     EXPECT_LE(std::abs(sprite.spinVelocity), 45.0f);
 }
 
-// One victim of each sort, in the modes that count kills and in the one that counts points.
-TEST(Credit, IsAKillLessForOnesOwnDeathAndAKillForAnyOther) {
-    TestRound round;
-    const auto killer = round.addPlayer({1, 1});
-    const auto other = round.addPlayer({3, 3});
-    const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
-    killer->creditKill(other, false);
-    killer->creditKill(snake, true);
-    killer->creditKill(snake, false);
-    EXPECT_EQ(killer->kills, 3);
-    killer->creditKill(killer, false);
-    EXPECT_EQ(killer->kills, 2);
-}
-
 TEST(Credit, InEverythingIsPointsForTheTeam) {
     struct Row {
         const char* what;
         int killerTeam;
-        int victim;  // place in `players`
+        int victim;  // place in `players`: 0 the killer, 1 its team-mate, 2 a rival, 3 a computer's snake
         bool survived;
         int points;
     };
-    // 0 the killer, 1 its team-mate, 2 a rival, 3 a computer's snake.
     constexpr Row rows[] = {
         {"itself", 0, 0, false, -7},     {"a team-mate", 0, 1, false, -7},   {"a rival", 0, 2, false, 7},
         {"a snake hurt", 0, 3, true, 2}, {"a snake killed", 0, 3, false, 5}, {"a rival, teamless", -1, 2, false, 0},
