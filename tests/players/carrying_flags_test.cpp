@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "arena/sparks.h"
-#include "support/round_fixture.h"
+#include "players/in_words.h"
 
 namespace vandrel {
 namespace {
@@ -38,7 +38,7 @@ class Flags : public testing::Test {
         flagOf(team).carrier = carrier;
     }
     // The player's own update alone: loose flags do not slide.
-    void act() { player->update(round.replay(), &round.game(), false); }
+    void updatePlayer() { player->update(round.replay(), &round.game(), false); }
 
     TestRound round;
     std::shared_ptr<Player> player;
@@ -53,28 +53,18 @@ TEST_F(Flags, OfRivalsAreTakenNearerThanThirteenPixels) {
                            Row{{10, 9}, false}, Row{{5, 12}, false}}) {
         flagOf(1).carrier.reset();
         dropAt(1, {player->x + row.offset.x, player->y + row.offset.y});
-        act();
+        updatePlayer();
         EXPECT_EQ(carries(1), row.taken) << row.offset;
     }
 }
 
-TEST_F(Flags, AreTakenFromTheirBaseAndGoWithTheCarrier) {
-    player->x = 13 * 32 - 5;
-    act();
-    EXPECT_TRUE(carries(1));
-    EXPECT_FALSE(flagOf(1).inBase);
-    round.hold(*player, {.left = true});
-    round.step(10);
-    EXPECT_EQ(flagOf(1).position(), player->position());
-}
-
 TEST_F(Flags, OfOnesOwnAreRecoveredOutsideTheBaseOnly) {
     player->x = 32;
-    act();
+    updatePlayer();
     EXPECT_TRUE(flagOf(0).inBase);
     EXPECT_TRUE(round.toastTexts().empty());
     dropAt(0, {40, 165});
-    act();
+    updatePlayer();
     EXPECT_TRUE(flagOf(0).inBase);
     EXPECT_FALSE(carries(0));
     EXPECT_EQ(flagOf(0).position(), (Pixel{32, 160}));
@@ -82,46 +72,36 @@ TEST_F(Flags, OfOnesOwnAreRecoveredOutsideTheBaseOnly) {
     EXPECT_EQ(round.takeHeard(), (std::vector<HeardSample>{{SampleIds::Gong2, 200, 128, 2000}}));
 }
 
-TEST_F(Flags, AreLeftAloneByGhostsSnakesOfTheComputerAndInTheLobby) {
+TEST_F(Flags, AreLeftAloneByGhostsSnakesOfTheComputerInTheLobbyAndWhileSomebodyHasThem) {
     dropAt(1, player->position());
-    player->ghost = true;
-    player->shieldTimer = Player::lastingShield();
-    act();
+    asGhost(*player);
+    updatePlayer();
     EXPECT_FALSE(carries(1));
     player->ghost = false;
     player->update(round.replay(), &round.game(), true);
     EXPECT_FALSE(carries(1));
     player->isAI = true;
-    act();
+    updatePlayer();
     EXPECT_FALSE(carries(1));
     player->isAI = false;
-    act();
+    updatePlayer();
+    EXPECT_TRUE(carries(1));
+    const auto other = round.addPlayer({7, 5}, 0);
+    other->update(round.replay(), &round.game(), false);
     EXPECT_TRUE(carries(1));
 }
 
-TEST_F(Flags, ThatSomebodyCarriesAreNotTaken) {
-    const auto other = round.addPlayer({7, 5}, 0);
-    giveTo(other, 1);
-    flagOf(1).moveTo(player->position());
-    act();
-    EXPECT_EQ(flagOf(1).carrier.lock(), other);
-}
-
-TEST_F(Flags, StartTheTimeOfAGhostWhoCarriesThem) {
+TEST_F(Flags, StartTheTimeOfAGhostWhoCarriesThemButNotOfOneWhoCapturesThem) {
     giveTo(player, 1);
     player->givePowerup(Bonus::Ghost);
-    act();
+    updatePlayer();
     EXPECT_TRUE(player->ghost);
     EXPECT_EQ(player->shieldTimer, Player::runningShield());
-    act();
+    updatePlayer();
     EXPECT_EQ(player->shieldTimer, Player::runningShield() - 1);
-}
-
-TEST_F(Flags, LeaveTheGhostWhoCapturesThemItsTime) {
     player->x = 32;
-    giveTo(player, 1);
-    player->givePowerup(Bonus::Ghost);
-    act();
+    player->shieldTimer = Player::lastingShield();
+    updatePlayer();
     EXPECT_EQ(teams[0].score, 1);
     EXPECT_EQ(player->shieldTimer, Player::lastingShield()) << "it carries nothing any more";
 }
@@ -140,6 +120,7 @@ TEST_F(Flags, AreCapturedAtTheBaseWithOnesOwnAtHome) {
         {"base shared", {32, 160}, true, true, false},
     };
     for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
         teams[0].score = teams[0].displayedScore = 0;
         teams[1].baseX = row.sharedBase ? 1 : 13;
         giveTo(player, 1);
@@ -148,14 +129,15 @@ TEST_F(Flags, AreCapturedAtTheBaseWithOnesOwnAtHome) {
         player->x = row.place.x;
         sparks.clear();
         round.takeHeard();
-        act();
-        EXPECT_EQ(teams[0].score, row.captures ? 1 : 0) << row.what;
-        EXPECT_EQ(teams[0].displayedScore, teams[0].score) << row.what;
-        EXPECT_EQ(carries(1), !row.captures) << row.what;
-        EXPECT_EQ(flagOf(1).inBase, row.captures) << row.what;
-        EXPECT_EQ(flagOf(1).position(), row.captures ? (Pixel{13 * 32, 160}) : player->position()) << row.what;
-        EXPECT_EQ(sparks.size(), row.captures ? 300U : 0U) << row.what;
-        EXPECT_EQ(round.takeHeard().size(), row.captures ? 1U : 0U) << row.what;
+        updatePlayer();
+        EXPECT_EQ(teams[0].score, row.captures ? 1 : 0);
+        EXPECT_EQ(teams[0].displayedScore, teams[0].score);
+        EXPECT_EQ(carries(1), !row.captures);
+        EXPECT_EQ(flagOf(1).inBase, row.captures);
+        EXPECT_EQ(flagOf(1).position(), row.captures ? (Pixel{13 * 32, 160}) : player->position());
+        EXPECT_EQ(sparks.size(), row.captures ? 300U : 0U);
+        EXPECT_EQ(round.takeHeard(),
+                  row.captures ? (std::vector<HeardSample>{{SampleIds::Gong2}}) : std::vector<HeardSample>{});
     }
 }
 
@@ -164,22 +146,21 @@ TEST_F(Flags, ANeutralOneNeedsNoFlagAtHome) {
     Flag neutral;
     neutral.moveTo(squareToPixel(flagHome(neutral)));
     round.game().flags = {neutral};
-    act();
+    updatePlayer();
     EXPECT_TRUE(carries(0)) << "any player takes it from the middle";
+    EXPECT_FALSE(flagOf(0).inBase);
     player->x = 32;
-    act();
+    updatePlayer();
     EXPECT_EQ(teams[0].score, 1);
     EXPECT_EQ(flagOf(0).position(), (Pixel{7 * 32, 5 * 32}));
     EXPECT_TRUE(flagOf(0).inBase);
 }
 
 TEST_F(Flags, OfNobodyAreNotRecoveredByWhoHasNoTeamEither) {
-    player->team = -1;
-    flagOf(1).team = -1;
+    player->team = flagOf(1).team = -1;
     dropAt(1, player->position());
-    act();
-    EXPECT_FALSE(flagOf(1).inBase) << "a neutral flag goes home by capture only";
-    EXPECT_TRUE(carries(1));
+    updatePlayer();
+    EXPECT_TRUE(carries(1)) << "a neutral flag goes home by capture only";
 }
 
 class FlagsInEverything : public Flags {
@@ -191,17 +172,17 @@ TEST_F(FlagsInEverything, EarnTheirPoints) {
     gameOptions.flagCapturePoints = 17;
     giveTo(player, 1);
     player->x = 32;
-    act();
+    updatePlayer();
     EXPECT_EQ(teams[0].score, 17);
     gameOptions.everythingCTF = false;
     dropAt(1, player->position());
-    act();
+    updatePlayer();
     EXPECT_FALSE(carries(1)) << "where the mode is off";
 }
 
 TEST_F(Flags, InABaseCannotHaveACarrier) {
     flagOf(1).carrier = player;
-    EXPECT_THROW(act(), std::runtime_error);
+    EXPECT_THROW(updatePlayer(), std::runtime_error);
 }
 
 TEST_F(Flags, ACaptureIsRecordedWithTheScore) {
@@ -213,7 +194,7 @@ TEST_F(Flags, ACaptureIsRecordedWithTheScore) {
     teams[0].score = 0x01020304;
     giveTo(player, 1);
     player->x = 32;
-    act();
+    updatePlayer();
     EXPECT_EQ(recorded.str(), std::string("\0\0\5\3\2\1", 6)) << "the player's record, then the score";
     EXPECT_EQ(verified.str(), "CTFSCORE\n0\n16909061\n");
 }

@@ -4,8 +4,8 @@
 #include <memory>
 
 #include "base/random.h"
+#include "players/in_words.h"
 #include "shell/switches.h"
-#include "support/round_fixture.h"
 
 namespace vandrel {
 namespace {
@@ -28,8 +28,7 @@ class SecondButton : public testing::Test {
 };
 
 TEST_F(SecondButton, BidsOnceAPressAndNeverMoreThanTheCash) {
-    round.hold(*player, {.button2 = true});
-    round.step(5);
+    act(round, *player, {.button2 = true}, 5);
     EXPECT_EQ(price(), 2);
     EXPECT_EQ(round.game().auction->bidder, player);
     EXPECT_EQ(round.takeHeard(), (std::vector<HeardSample>{{SampleIds::Cash2}}));
@@ -53,35 +52,20 @@ TEST_F(SecondButton, LightsTheRingForSixtyFramesAtEveryRate) {
 }
 
 TEST_F(SecondButton, OnlyLightsTheRingOfWhoCannotUseWhatIsOffered) {
-    struct Row {
-        const char* who;
-        void (*make)(Player& player);
-    };
-    const Row rows[] = {
-        {"a ghost",
-         [](Player& p) {
-             p.ghost = true;
-             p.shieldTimer = 500;
-         }},
-        {"a snake", [](Player& p) { p.setSnakeLength(4); }},
-    };
-    for (const Row& row : rows) {
+    for (const Who& row : {Who{"a ghost", asGhost}, Who{"a snake", asSnake}}) {
         player->reset();
         row.make(*player);
-        round.hold(*player, {.button2 = true});
-        round.step();
+        act(round, *player, {.button2 = true});
         EXPECT_EQ(player->pingTimer, 60) << row.who;
         EXPECT_EQ(price(), 1) << row.who;
-        round.release(*player);
-        round.step();
+        act(round, *player, {});
     }
 }
 
 TEST_F(SecondButton, HeldWhileGettingUpMakesNoBid) {
     player->crawling = true;
     player->crawlTimer = 3;
-    round.hold(*player, {.button2 = true});
-    round.step(10);
+    act(round, *player, {.button2 = true}, 10);
     EXPECT_FALSE(player->crawling);
     EXPECT_EQ(price(), 1);
 }
@@ -112,8 +96,7 @@ TEST(Trail, HoldsTheLastTwentyPlacesForAsLongAsItsTimerRuns) {
     TestRound round;
     const auto player = round.addPlayer({5, 5});
     player->trailTimer = 61;
-    round.hold(*player, {.right = true});
-    round.step(3);
+    act(round, *player, {.right = true}, 3);
     ASSERT_EQ(player->trail.size(), 3U);
     EXPECT_EQ(player->trail[0].x, 160) << "places before the step of the frame";
     EXPECT_EQ(player->trail[2].x, 164);

@@ -1,7 +1,7 @@
 // Strength: which walls and bombs move one square, what refuses them, and who is crushed behind a wall.
 #include <gtest/gtest.h>
 
-#include "support/round_fixture.h"
+#include "players/in_words.h"
 
 namespace vandrel {
 namespace {
@@ -10,38 +10,42 @@ constexpr Square source{5, 5};
 constexpr Square target{6, 5};
 
 // A strong player left of what it pushes.
-class Pushing : public testing::Test {
-  protected:
-    explicit Pushing(const RoundSetup& setup = {}) : round(setup), pusher(round.addPlayer({4, 5})) {
+struct StrongPusher : TestRound {
+    explicit StrongPusher(const RoundSetup& setup = {.version = replayOutputVersion})
+        : TestRound(setup), pusher(addPlayer({4, 5})) {
         pusher->strength = true;
     }
 
-    void push() {
-        round.hold(*pusher, {.right = true});
-        round.step();
+    void push(int wall = SquareKind::Empty) {
+        if (wall != SquareKind::Empty) {
+            squareGrid.set(source, wall);
+        }
+        act(*this, *pusher, {.right = true});
     }
-
-    TestRound round;
     std::shared_ptr<Player> pusher;
+};
+
+class Pushing : public testing::Test {
+  protected:
+    StrongPusher round;
+    std::shared_ptr<Player> pusher = round.pusher;
 };
 
 TEST_F(Pushing, AWallMovesOnWithItsHitsAndWhatItHides) {
     for (const int kind :
          {SquareKind::Wall, SquareKind::HardWall, SquareKind::HardWallHitOnce, SquareKind::HardWallHitTwice}) {
-        squareGrid.set(source, kind);
         squareGrid.set(target, SquareKind::Empty);
         bonusGrid.at(source) = Bonus::Range;
         bonusGrid.at(target) = 0;
         round.takeHeard();
-        push();
-        EXPECT_EQ(squareGrid.at(source), SquareKind::Empty);
-        EXPECT_EQ(bonusGrid.at(source), 0);
+        round.push(kind);
+        EXPECT_EQ(markOf(round.game(), source), '.') << "nor is there a powerup";
         EXPECT_EQ(squareGrid.at(target), kind);
         EXPECT_EQ(bonusGrid.at(target), Bonus::Range);
         EXPECT_EQ(round.takeHeard(), (std::vector<HeardSample>{{SampleIds::Slide}}));
         EXPECT_EQ(pusher->x, 128) << "the push takes the frame";
     }
-    push();
+    round.push();
     EXPECT_EQ(pusher->x, 130) << "and the pusher walks after it";
 }
 
@@ -57,70 +61,58 @@ TEST_F(Pushing, IsRefusedWithoutStrengthOffTheLineAndForWhatCannotMove) {
                             {SquareKind::EdgeWall, true, 0},
                             {SquareKind::WallCrumbling, true, 0}};
     for (const Row& row : rows) {
-        squareGrid.set(source, row.kind);
         pusher->strength = row.strength;
         pusher->x = 128 + row.offset;
-        push();
-        EXPECT_NE(squareGrid.at(source), SquareKind::Empty);
-        EXPECT_EQ(squareGrid.at(target), SquareKind::Empty);
-        EXPECT_EQ(pusher->x, 128);
+        round.push(row.kind);
+        EXPECT_NE(squareGrid.at(source), SquareKind::Empty) << "row " << &row - rows;
+        EXPECT_EQ(squareGrid.at(target), SquareKind::Empty) << "row " << &row - rows;
+        EXPECT_EQ(pusher->x, 128) << "row " << &row - rows;
     }
 }
 
-TEST(PushingInFreshRounds, IsRefusedWhereTheNextSquareIsTaken) {
-    enum class Taken { ByWall, ByCrumbling, ByBonus, ByBomb };
+TEST(PushingOntoWhatIsThere, IsRefused) {
+    struct Row {
+        char behind;
+        void (*put)(const std::shared_ptr<Player>& player);
+    };
+    const Row rows[] = {
+        {'o', [](const auto& player) { placeBomb(target, player, 500); }},
+        {'X', [](const auto&) { squareGrid.set(target, SquareKind::GridBlock); }},
+        {'=', [](const auto&) { squareGrid.set(target, SquareKind::HardWallCrumbling); }},
+        {'b', [](const auto&) { bonusGrid.at(target) = Bonus::Cash; }},
+    };
     for (const bool bomb : {false, true}) {
-        for (const Taken taken : {Taken::ByWall, Taken::ByCrumbling, Taken::ByBonus, Taken::ByBomb}) {
-            TestRound round;
-            const auto player = round.addPlayer({4, 5});
-            player->strength = true;
+        for (const Row& row : rows) {
+            StrongPusher round;
             if (bomb) {
-                placeBomb(source, player, 500);
-            } else {
-                squareGrid.set(source, SquareKind::Wall);
+                placeBomb(source, round.pusher, 500);
             }
-            if (taken == Taken::ByBomb) {
-                placeBomb(target, player, 500);
-            } else if (taken == Taken::ByBonus) {
-                bonusGrid.at(target) = Bonus::Cash;
-            } else {
-                squareGrid.set(target, taken == Taken::ByWall ? SquareKind::GridBlock : SquareKind::HardWallCrumbling);
-            }
-            round.hold(*player, {.right = true});
-            round.step();
-            EXPECT_EQ(squareGrid.at(source) == SquareKind::Wall, !bomb);
-            EXPECT_EQ(hasBomb(source), bomb);
+            row.put(round.pusher);
+            round.push(bomb ? SquareKind::Empty : SquareKind::Wall);
+            EXPECT_EQ(rowOf(round.game(), 5), fmt::format("#....{}{}.......#", bomb ? 'o' : 'w', row.behind));
             EXPECT_TRUE(round.takeHeard().empty());
         }
     }
 }
 
-TEST(PushingInFreshRounds, ABombMovesOnWithItsWholeRecord) {
-    struct Row {
-        BombKind kind;
-        bool moves;
-    };
-    constexpr Row rows[] = {
-        {BombKind::Ticking, true}, {BombKind::Armed, true}, {BombKind::Steered, false}, {BombKind::Rocket, false}};
-    for (const Row& row : rows) {
-        TestRound round;
-        const auto player = round.addPlayer({4, 5});
+TEST(PushingBombs, MovesThemOnWithTheirWholeRecord) {
+    for (const BombKind kind : bombKinds) {
+        const bool moves = kind == BombKind::Ticking || kind == BombKind::Armed;
+        StrongPusher round(RoundSetup{});
         const auto owner = round.addPlayer({1, 1});
-        player->strength = true;
         owner->remoteActive = true;
-        placeBomb(source, owner, 77);
-        bombGrid.edit(source).kind = row.kind;
+        placeBombOf(kind, source, owner, 77);
         bombGrid.edit(source).direction = Facing::Up;
         bombGrid.edit(source).rocketStep = -50;
-        round.hold(*player, {.right = true});
-        player->update(round.replay(), &round.game(), false);
-        EXPECT_EQ(hasBomb(source), !row.moves);
-        ASSERT_EQ(hasBomb(target), row.moves);
-        if (row.moves) {
+        round.hold(*round.pusher, {.right = true});
+        round.pusher->update(round.replay(), &round.game(), false);
+        EXPECT_EQ(hasBomb(source), !moves);
+        ASSERT_EQ(hasBomb(target), moves);
+        if (moves) {
             const Bomb& moved = bombGrid.at(target);
             EXPECT_EQ(moved.owner.lock(), owner);
             EXPECT_EQ(moved.fuse, 77);
-            EXPECT_EQ(moved.kind, row.kind);
+            EXPECT_EQ(moved.kind, kind);
             EXPECT_EQ(moved.direction, Facing::Up);
             EXPECT_EQ(moved.rocketStep, -50);
             const Bomb& left = bombGrid.at(source);
@@ -131,135 +123,66 @@ TEST(PushingInFreshRounds, ABombMovesOnWithItsWholeRecord) {
     }
 }
 
-TEST_F(Pushing, APushedBombTicksOnWhereItWent) {
-    placeBomb(source, pusher, 5);
-    push();
-    round.release(*pusher);
-    EXPECT_EQ(round.stepUntil([] { return !hasBomb(target); }), 5);
-    EXPECT_TRUE(isFlame(round.game(), target));
-    EXPECT_EQ(pusher->bombsPlaced, 0);
-}
-
-TEST_F(Pushing, AWallCrushesAWalkerAndCreditsThePusher) {
-    const auto victim = round.addPlayer(target);
-    squareGrid.set(source, SquareKind::HardWall);
-    push();
-    EXPECT_TRUE(victim->dead);
-    EXPECT_EQ(pusher->kills, 1);
-    EXPECT_EQ(squareGrid.at(target), SquareKind::HardWall);
-}
-
-// `PushedWall` asks for no form: a ghost is not spared by the push, unlike by the wall itself.
-TEST_F(Pushing, AWallCrushesAGhost) {
-    const auto victim = round.addPlayer(target);
-    victim->ghost = true;
-    victim->shieldTimer = Player::lastingShield();
-    squareGrid.set(source, SquareKind::Wall);
-    push();
-    EXPECT_TRUE(victim->dead);
-    EXPECT_EQ(pusher->kills, 1);
-}
-
-TEST_F(Pushing, AShieldTakesTheWallAndStartsToRun) {
-    const auto victim = round.addPlayer(target);
-    victim->shield = true;
-    victim->shieldTimer = Player::lastingShield();
-    squareGrid.set(source, SquareKind::Wall);
-    push();
-    EXPECT_FALSE(victim->dead);
-    EXPECT_EQ(pusher->kills, 0);
-    // The victim is updated behind the pusher and so loses a first frame already.
-    EXPECT_EQ(victim->shieldTimer, Player::runningShield() - 1);
-}
-
-TEST_F(Pushing, AWallOnAHumanSnakesHeadMakesItCrawl) {
-    const auto snake = round.addSnake(target, Facing::Up, 4);
-    snake->snakeParts.assign(4, {416, 256, Facing::Up});
-    squareGrid.set(source, SquareKind::Wall);
-    push();
-    EXPECT_FALSE(snake->isSnake());
-    EXPECT_TRUE(snake->crawling);
-    EXPECT_EQ(pusher->kills, 0) << "it lives";
-}
-
-// The parts of snakes of which only some stand behind the wall.
-void layParts(Player& snake, const std::vector<Square>& squares) {
-    snake.snakeParts.clear();
-    for (const Square square : squares) {
-        snake.snakeParts.emplace_back(square.x * squareSize, square.y * squareSize, Facing::Right);
+// A push asks for no form: a ghost is not spared by it, unlike by the wall itself.
+TEST(PushingOntoPlayers, CrushesAllButTheShieldedAndCreditsThePusher) {
+    struct Row : Who {
+        bool crushed;
+    };
+    for (const Row& row : {Row{{"a walker", asItIs}, true}, Row{{"a ghost", asGhost}, true},
+                           Row{{"a shielded one", asShielded}, false}}) {
+        StrongPusher round;
+        const auto victim = round.addPlayer(target);
+        row.make(*victim);
+        round.push(SquareKind::HardWall);
+        EXPECT_EQ(victim->dead, row.crushed) << row.who;
+        EXPECT_EQ(round.pusher->kills, row.crushed ? 1 : 0) << row.who;
+        EXPECT_EQ(squareGrid.at(target), SquareKind::HardWall);
+        if (victim->shield) {
+            // The victim is updated behind the pusher and so loses a first frame already.
+            EXPECT_EQ(victim->shieldTimer, Player::runningShield() - 1);
+        }
     }
 }
 
-class PushingOnTails : public Pushing {
-  protected:
-    PushingOnTails() : Pushing({.version = replayOutputVersion}) { squareGrid.set(source, SquareKind::Wall); }
-};
-
-TEST(PushingOnTailsInFreshRounds, ANearPartIsHitUntilTheTailIsShortEnough) {
+// Each hit halves, and the search begins again: part 1 is found at 16, 8 and 4, part 5 at 16 and 8, part 9 at 16.
+TEST(PushingOntoTails, HitsANearPartUntilTheTailIsShortEnoughAndCreditsSnakesOfTheComputer) {
     struct Row {
         int length;
-        std::size_t part;  // that stands behind the wall
-        int lengthAfter;   // 0: the end of the snake
+        std::size_t part;
+        bool ai;
+        bool shielded;
+        const char* after;
         int credits;
     };
-    // Each hit halves, and the search begins again: part 1 is found at 16, 8 and 4, part 5 at 16 and 8, part 9 at 16.
-    constexpr Row rows[] = {{16, 1, 0, 1}, {16, 5, 4, 1}, {16, 9, 8, 1}, {16, 0, 16, 0}, {8, 7, 4, 1}};
+    constexpr Row rows[] = {
+        {16, 1, true, false, "dead, shielded", 1},        {16, 5, true, false, "snake of 4, shielded", 1},
+        {16, 9, true, false, "snake of 8, shielded", 1},  {16, 0, true, false, "snake of 16", 0},
+        {8, 7, true, false, "snake of 4, shielded", 1},   {16, 9, true, true, "snake of 8, shielded", 1},
+        {16, 9, false, false, "snake of 8, shielded", 0},
+    };
     for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << "length " << row.length << ", part " << row.part);
-        TestRound round({.version = replayOutputVersion});
-        squareGrid.set(source, SquareKind::Wall);
-        const auto player = round.addPlayer({4, 5});
-        player->strength = true;
-        const auto snake = round.addSnake({10, 8}, Facing::Right, row.length, true);
-        std::vector<Square> squares(static_cast<std::size_t>(row.length), Square{10, 8});
-        squares[row.part] = target;
-        layParts(*snake, squares);
-        round.hold(*player, {.right = true});
-        round.step();
-        EXPECT_EQ(snake->snakeLengthNow(), row.lengthAfter);
-        EXPECT_EQ(snake->dead, row.lengthAfter == 0);
-        EXPECT_EQ(player->kills, row.credits);
+        SCOPED_TRACE(fmt::format("length {}, part {}, ai {}, shielded {}", row.length, row.part, row.ai, row.shielded));
+        StrongPusher round;
+        const auto snake = round.addSnake({10, 8}, Facing::Right, row.length, row.ai);
+        layParts(*snake, {10, 8}, row.part, target);
+        snake->shield = row.shielded;
+        snake->shieldTimer = 50;
+        round.push(SquareKind::Wall);
+        EXPECT_EQ(formOf(*snake), row.after);
+        EXPECT_EQ(round.pusher->kills, row.credits);
     }
 }
 
-TEST_F(PushingOnTails, AShieldDoesNotSaveATail) {
-    const auto snake = round.addSnake({10, 8}, Facing::Right, 16, true);
-    std::vector<Square> squares(16, Square{10, 8});
-    squares[9] = target;
-    layParts(*snake, squares);
-    snake->shield = true;
-    snake->shieldTimer = 50;
-    push();
-    EXPECT_EQ(snake->snakeLengthNow(), 8);
-    EXPECT_EQ(pusher->kills, 1);
-}
-
-TEST_F(PushingOnTails, AHumansTailIsHalvedWithoutCredit) {
-    const auto snake = round.addSnake({10, 8}, Facing::Right, 16);
-    std::vector<Square> squares(16, Square{10, 8});
-    squares[9] = target;
-    layParts(*snake, squares);
-    push();
-    EXPECT_EQ(snake->snakeLengthNow(), 8);
-    EXPECT_EQ(pusher->kills, 0);
-}
-
-TEST(PushingOnTailsInFreshRounds, TheEndOfASnakesTailEarnsItsPointsInEverything) {
-    TestRound round({.mode = GameMode::Everything, .version = replayOutputVersion, .tune = [](GameOptions& o) {
-                         o.everythingCTF = false;
-                     }});
+TEST(PushingOntoTails, EarnsThePointsOfASnakeThatWasHurtInEverything) {
+    StrongPusher round({.mode = GameMode::Everything, .version = replayOutputVersion, .tune = [](GameOptions& o) {
+                            o.everythingCTF = false;
+                        }});
     round.addTeam({1, 5});
-    const auto player = round.addPlayer({4, 5}, 0);
-    player->strength = true;
-    squareGrid.set(source, SquareKind::Wall);
-    const auto snake = round.addSnake({10, 8}, Facing::Right, 16, true);
-    std::vector<Square> squares(16, Square{10, 8});
-    squares[9] = target;
-    layParts(*snake, squares);
-    round.hold(*player, {.right = true});
-    round.step();
+    round.pusher->team = 0;
+    layParts(*round.addSnake({10, 8}, Facing::Right, 16, true), {10, 8}, 9, target);
+    round.push(SquareKind::Wall);
     EXPECT_EQ(teams[0].score, gameOptions.snakeHurtPoints);
-    EXPECT_EQ(player->kills, 0);
+    EXPECT_EQ(round.pusher->kills, 0);
 }
 
 }  // namespace
