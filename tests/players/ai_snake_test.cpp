@@ -1,9 +1,10 @@
 // The making of a snake of the computer: its speed against the humans', its first heading, what else it starts with.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <sstream>
 
-#include "support/round_fixture.h"
+#include "players/in_words.h"
 
 namespace vandrel {
 namespace {
@@ -15,22 +16,19 @@ TEST(NewAISnake, StandsOnItsSquareWithItsLengthAndNoShield) {
     const auto snake = createAISnake(123, {5, 5}, std::nullopt);
     EXPECT_EQ(squareGrid.at(5, 5), SquareKind::Empty);
     EXPECT_EQ(snake->position(), (Pixel{160, 160}));
+    EXPECT_EQ(formOf(*snake), "snake of 9");
+    EXPECT_TRUE(snake->isAI);
     EXPECT_EQ(snake->num, 123);
     EXPECT_EQ(snake->team, -1);
     EXPECT_EQ(snake->cash, 0);
-    EXPECT_TRUE(snake->isAI);
-    EXPECT_EQ(snake->snakeLengthNow(), 9);
-    EXPECT_FALSE(snake->shield);
-    EXPECT_EQ(snake->facing, Facing::Down);
     EXPECT_EQ(round.takeHeard(), (std::vector<HeardSample>{{SampleIds::Snake, 255}}));
 }
 
-struct Human {
-    int speed;
-    bool dead = false;
-};
-
 TEST(NewAISnake, IsAsFastAsTheOptionOrTheHumansSay) {
+    struct Human {
+        int speed;
+        bool dead = false;
+    };
     struct Row {
         int option;
         int initialSpeed;
@@ -61,36 +59,32 @@ TEST(NewAISnake, IsAsFastAsTheOptionOrTheHumansSay) {
             player->dead = human.dead;
         }
         round.addSnake({9, 7}, Facing::Up, 12, true)->speed = 6;  // other snakes do not count
-        EXPECT_EQ(createAISnake(120, {5, 5}, std::nullopt)->speed, row.speed);
+        EXPECT_EQ(createAISnake(120, {5, 5}, std::nullopt)->speed, row.speed) << "row " << &row - rows;
     }
 }
 
 TEST(NewAISnake, LooksTheFirstOpenWayIfItsOwnIsBlocked) {
+    constexpr int pillar = SquareKind::GridBlock;
+    constexpr int edge = SquareKind::EdgeWall;
     struct Row {
-        int down;
-        int up;
-        int left;
-        int right;
+        std::array<int, 4> around;  // down, up, left, right
         Facing facing;
     };
-    constexpr int solid = SquareKind::GridBlock;
-    constexpr int edge = SquareKind::EdgeWall;
     constexpr Row rows[] = {
-        {0, 0, 0, 0, Facing::Down},
-        {SquareKind::Wall, 0, 0, 0, Facing::Down},
-        {solid, 0, 0, 0, Facing::Up},
-        {edge, SquareKind::HardWall, 0, 0, Facing::Up},
-        {solid, edge, 0, 0, Facing::Left},
-        {solid, solid, solid, 0, Facing::Right},
-        {solid, solid, solid, edge, Facing::Down},
+        {{}, Facing::Down},
+        {{SquareKind::Wall}, Facing::Down},
+        {{pillar}, Facing::Up},
+        {{edge, SquareKind::HardWall}, Facing::Up},
+        {{pillar, edge}, Facing::Left},
+        {{pillar, pillar, pillar}, Facing::Right},
+        {{pillar, pillar, pillar, edge}, Facing::Down},
     };
     for (const Row& row : rows) {
         TestRound round;
-        squareGrid.set(5, 6, row.down);
-        squareGrid.set(5, 4, row.up);
-        squareGrid.set(4, 5, row.left);
-        squareGrid.set(6, 5, row.right);
-        EXPECT_EQ(createAISnake(120, {5, 5}, std::nullopt)->facing, row.facing);
+        for (std::size_t i = 0; i < 4; ++i) {
+            squareGrid.set(Square{5, 5} + directionOf(facingOrder[i]), row.around[i]);
+        }
+        EXPECT_EQ(createAISnake(120, {5, 5}, std::nullopt)->facing, row.facing) << "row " << &row - rows;
     }
 }
 
@@ -102,9 +96,9 @@ TEST(AISnake, ChoosesOnLinesAndRecordsOneInputAFrame) {
     round.game().replay.recording = true;
     const auto snake = round.addSnake({7, 1}, Facing::Right, 2, true);
     snake->speed = 6;
-    for (int frame = 1; frame <= 60; ++frame) {
+    for (unsigned frame = 1; frame <= 60; ++frame) {
         round.step();
-        EXPECT_EQ(recorded.str().size(), 2U * static_cast<std::size_t>(frame));
+        EXPECT_EQ(recorded.str().size(), 2U * frame);
     }
     const std::string bytes = recorded.str();
     EXPECT_EQ(bytes[0], static_cast<char>(snake->num));

@@ -7,6 +7,7 @@
 #include <random>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "arena/arena.h"
@@ -167,82 +168,49 @@ class SnakeScene {
     }
 
     void place(Square square, char mark) {
+        constexpr std::pair<char, int> kinds[] = {{'.', SquareKind::Empty},           {'#', SquareKind::EdgeWall},
+                                                  {'%', SquareKind::GridBlock},       {'w', SquareKind::Wall},
+                                                  {'v', SquareKind::HardWallHitOnce}, {'~', SquareKind::WallCrumbling}};
+        for (const auto& [known, kind] : kinds) {
+            if (known == mark) {
+                squareGrid.set(square, kind);
+                return;
+            }
+        }
         const Pixel corner = squareToPixel(square);
-        switch (mark) {
-            case '.':
-                break;
-            case '#':
-                squareGrid.set(square, SquareKind::EdgeWall);
-                break;
-            case '%':
-                squareGrid.set(square, SquareKind::GridBlock);
-                break;
-            case 'w':
-                squareGrid.set(square, SquareKind::Wall);
-                break;
-            case 'v':
-                squareGrid.set(square, SquareKind::HardWallHitOnce);
-                break;
-            case '~':
-                squareGrid.set(square, SquareKind::WallCrumbling);
-                break;
-            case 'c':
-                addCursor(square);
-                break;
-            case 'C':
-                addCursor(square);
-                addBody(corner);
-                break;
-            case 'b':
-                addBody(corner);
-                break;
-            default:
-                placePlayer(corner, mark);
-                break;
+        const bool body = mark == 'b' || mark == 'C';
+        if (body) {
+            addBody(corner);
+        }
+        if (mark == 'c' || mark == 'C') {
+            game->shrinkCursors.push_back({.x = square.x, .y = square.y, .dx = 0, .dy = 1});
+        } else if (!body) {
+            placePlayer(corner, mark);
         }
     }
 
     void placePlayer(Pixel corner, char mark) {
-        const auto player = addPlayer(corner);
-        switch (mark) {
-            case 'H':
-                chooser = player;
-                player->facing = Facing::Right;
-                [[fallthrough]];
-            case 'o':
-                player->isAI = true;
-                player->setSnakeLength(1);
-                break;
-            case 'p':
-                break;
-            case 'g':
-                player->ghost = true;
-                break;
-            case 'u':
-                player->ultraBomb = true;
-                break;
-            case 'r':
-                player->bombType = BombType::RocketLauncher;
-                break;
-            case 's':
-                player->speed = gameOptions.speedCap;
-                break;
-            case '2':
-                player->ghost = true;
-                addPlayer(corner);
-                break;
-            case '3':
-                addPlayer(corner)->ghost = true;
-                break;
-            case 'D':
-                player->dead = true;
-                break;
-            default:
-                throw std::invalid_argument(std::string("no such square: ") + mark);
+        if (std::string("Hopgurs23D").find(mark) == std::string::npos) {
+            throw std::invalid_argument(std::string("no such square: ") + mark);
         }
+        const auto player = addPlayer(corner);
+        if (mark == 'H') {
+            chooser = player;
+            player->facing = Facing::Right;
+        }
+        if (mark == 'H' || mark == 'o') {
+            player->isAI = true;
+            player->setSnakeLength(1);
+        }
+        if (mark == '2' || mark == '3') {
+            addPlayer(corner)->ghost = mark == '3';
+        }
+        player->ghost = mark == 'g' || mark == '2';
+        player->ultraBomb = mark == 'u';
+        player->bombType = mark == 'r' ? BombType::RocketLauncher : BombType::Normal;
+        player->speed = mark == 's' ? gameOptions.speedCap : player->speed;
+        player->dead = mark == 'D';
     }
-
-    void addCursor(Square square) { game->shrinkCursors.push_back({.x = square.x, .y = square.y, .dx = 0, .dy = 1}); }
 
     // A part whose snake has its head in the corner of the arena, where no path comes.
     void addBody(Pixel corner) {

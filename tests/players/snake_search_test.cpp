@@ -70,16 +70,15 @@ TEST(SnakeSearch, FindsWhatThePlainSearchFindsOnRandomBoards) {
 }
 
 // Worked out by hand. The snake is in a passage one square wide, so that the ends of each path can be counted.
-struct Passage {
-    const char* what;
-    std::string row;
-    int depth;
-    int wallValue;
-    int aggressiveness;
-    CheckDirectionResult expected;
-};
-
 TEST(SnakeSearch, CountsSquaresWallsPeopleAndEnds) {
+    struct Passage {
+        const char* what;
+        std::string row;
+        int depth;
+        int wallValue;
+        int aggressiveness;
+        CheckDirectionResult expected;
+    };
     const Passage passages[] = {
         {"no depth at all looks at nothing", "#H#..#", 0, 1, 0, {0, 1}},
         {"blocked at once", "#H#..#", 5, 1, 0, {-2, 1}},
@@ -115,9 +114,9 @@ TEST(SnakeSearch, CountsSquaresWallsPeopleAndEnds) {
         const SnakeScene scene({wall, passage.row, wall});
         gameOptions.snakeAggressiveness = passage.aggressiveness;
         const SnakeBoard board(*scene.game, *scene.chooser, {1, 1}, passage.depth, passage.wallValue);
-        const CheckDirectionResult found = board.checkDirection({1, 0});
-        EXPECT_EQ(found.score, passage.expected.score) << passage.what;
-        EXPECT_EQ(found.paths, passage.expected.paths) << passage.what;
+        const auto [score, paths] = board.checkDirection({1, 0});
+        EXPECT_EQ(score, passage.expected.score) << passage.what;
+        EXPECT_EQ(paths, passage.expected.paths) << passage.what;
     }
 }
 
