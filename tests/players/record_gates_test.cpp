@@ -11,17 +11,23 @@
 namespace vandrel {
 namespace {
 
-// A carrier of the neutral flag stands on its base (1, 5).
-std::shared_ptr<Player> carryHome(TestRound& round, Square otherBase) {
-    gameOptions.singleFlag = true;
-    round.addTeam({1, 5});
-    round.addTeam(otherBase);
-    const auto player = round.addPlayer({1, 5}, 0);
+Flag looseFlag(int team, Pixel place) {
     Flag flag;
+    flag.team = team;
     flag.inBase = false;
-    flag.carrier = player;
-    round.game().flags = {flag};
-    return player;
+    flag.moveTo(place);
+    return flag;
+}
+
+// Steps through the lines, which must be all that the players' positions are held against.
+void stepAgainst(TestRound& round, const std::string& lines) {
+    const auto text = std::make_shared<std::istringstream>(lines + "END\n");
+    verifyEnabled = true;
+    round.game().replay.inputVerify = text;
+    EXPECT_NO_THROW(round.step());
+    std::string next;
+    *text >> next;
+    EXPECT_EQ(next, "END");
 }
 
 TEST(Since_0_0_7, AFlagIsNotTakenByItsOwnTeam) {
@@ -30,14 +36,7 @@ TEST(Since_0_0_7, AFlagIsNotTakenByItsOwnTeam) {
                       round.addTeam({1, 5});
                       round.addTeam({13, 5});
                       const auto player = round.addPlayer({4, 5}, 0);
-                      Flag own;
-                      own.team = 0;
-                      own.inBase = false;
-                      own.moveTo({132, 160});
-                      Flag other;
-                      other.team = 1;
-                      other.moveTo({416, 160});
-                      round.game().flags = {own, other};
+                      round.game().flags = {looseFlag(0, {132, 160}), looseFlag(1, {416, 160})};
                       round.step();
                       EXPECT_EQ(round.game().flags[0].carrier.lock() == player, old);
                       EXPECT_EQ(round.game().flags[0].inBase, !old);
@@ -47,43 +46,33 @@ TEST(Since_0_0_7, AFlagIsNotTakenByItsOwnTeam) {
 
 TEST(Since_0_95_4, TheVerificationHasSnakes) {
     playBothSides(replayVersion(0, 95, 4), [](TestRound& round, bool old) {
-        const auto snake = round.addSnake({5, 5}, Facing::Right, 2);
-        verifyEnabled = true;
-        const std::string head = "0\n163\n160\n";
-        const std::string body = "2 162 160 162 160\n";
-        // What stands behind the player's own lines is not read by it.
-        const auto text = std::make_shared<std::istringstream>(old ? head + "END\n" : head + body + "END\n");
-        round.game().replay.inputVerify = text;
-        EXPECT_NO_THROW(round.step());
-        std::string next;
-        *text >> next;
-        EXPECT_EQ(next, "END");
+        round.addSnake({5, 5}, Facing::Right, 2);
+        stepAgainst(round, old ? "0\n163\n160\n" : "0\n163\n160\n2 162 160 162 160\n");
     });
 }
 
 TEST(Since_0_95_10, TheDeadHaveNoRecordsAndNoLines) {
     playBothSides(replayVersion(0, 95, 10), [](TestRound& round, bool old) {
-        const auto dead = round.addPlayer({5, 5});
+        round.addPlayer({5, 5})->die();
         const auto living = round.addPlayer({7, 5});
-        dead->die();
-        verifyEnabled = true;
-        const std::string text = old ? "0\n160\n160\n1\n226\n160\nEND\n" : "1\n226\n160\nEND\n";
-        round.game().replay.inputVerify = std::make_shared<std::istringstream>(text);
         round.hold(*living, {.right = true});
-        EXPECT_NO_THROW(round.step());
+        stepAgainst(round, old ? "0\n160\n160\n1\n226\n160\n" : "1\n226\n160\n");
         EXPECT_EQ(living->x, 226);
-        std::string next;
-        *round.replay().inputVerify >> next;
-        EXPECT_EQ(next, "END");
     });
 }
 
+// A carrier of the neutral flag stands on its base.
 TEST(Since_0_96_6, NobodyCapturesOnABaseThatTwoTeamsShare) {
     for (const Square otherBase : {Square{1, 5}, Square{13, 5}}) {
         playBothSides(replayVersion(0, 96, 6),
                       [otherBase](TestRound& round, bool old) {
                           const bool captures = old || otherBase != Square{1, 5};
-                          const auto player = carryHome(round, otherBase);
+                          gameOptions.singleFlag = true;
+                          round.addTeam({1, 5});
+                          round.addTeam(otherBase);
+                          const auto player = round.addPlayer({1, 5}, 0);
+                          round.game().flags = {looseFlag(-1, {})};
+                          round.game().flags[0].carrier = player;
                           if (captures) {
                               round.putBehindRecord(*player, "\1");  // the score
                           }

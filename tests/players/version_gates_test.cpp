@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "players/both_sides.h"
+#include "players/in_words.h"
 
 namespace vandrel {
 namespace {
@@ -49,9 +50,8 @@ TEST(Since_0_0_11, TheOlderSnakeCrawlsThroughAWallAndEatsItAtItsFarSide) {
     }
     round.step();
     EXPECT_EQ(snake->x, 192) << "in step again";
-    EXPECT_EQ(squareGrid.at(6, 5), SquareKind::Empty);
-    EXPECT_EQ(bonusGrid.at(6, 5), 0);
-    EXPECT_EQ(snake->snakeLengthNow(), 4);
+    EXPECT_EQ(markOf(round.game(), {6, 5}), '.');
+    EXPECT_EQ(formOf(*snake), "snake of 4");
 }
 
 TEST(Since_0_0_11, TheOlderSnakesBodyFollowsThePathSixteenPixelsApart) {
@@ -63,8 +63,7 @@ TEST(Since_0_0_11, TheOlderSnakesBodyFollowsThePathSixteenPixelsApart) {
         EXPECT_EQ(std::get<0>(snake->snakeParts.at(i)), 240 - 16 * (static_cast<int>(i) + 1));
         EXPECT_EQ(std::get<2>(snake->snakeParts.at(i)), Facing::Right);
     }
-    round.hold(*snake, {.up = true});
-    round.step(8);
+    act(round, *snake, {.up = true}, 8);
     EXPECT_EQ(snake->facing, Facing::Up) << "it turns where both coordinates are on a line";
 }
 
@@ -87,46 +86,64 @@ TEST(Since_0_95_9, WhoStartsToCrawlLetsItsBombsGo) {
                   [](TestRound& round, bool old) {
                       const auto player = round.addPlayer({5, 5});
                       player->remoteActive = true;
-                      placeBomb({9, 9}, player, 50);
-                      bombGrid.edit(9, 9).kind = BombKind::Armed;
+                      placeBombOf(BombKind::Armed, {9, 9}, player);
                       player->hurt(DeathReason::Explosion, round.replay(), nullptr);
                       EXPECT_TRUE(player->crawling);
                       EXPECT_EQ(player->remoteActive, old);
-                      EXPECT_EQ(bombGrid.at(9, 9).kind, old ? BombKind::Armed : BombKind::Ticking);
+                      EXPECT_EQ(markOf(round.game(), {9, 9}), old ? 'a' : 'o');
                   },
                   {.mode = GameMode::BattleRoyale});
 }
 
 TEST(Since_0_95_12, HeadsOnOneSquareHurtEachOther) {
     playBothSides(replayVersion(0, 95, 12), [](TestRound& round, bool old) {
-        const auto first = round.addSnake({5, 5}, Facing::Up, 12);
-        const auto second = round.addSnake({5, 5}, Facing::Down, 12);
+        round.addSnake({5, 5}, Facing::Up, 12, true);
+        round.addSnake({5, 5}, Facing::Down, 12);
+        round.addSnake({9, 5}, Facing::Down, 12);
         round.game().checkPlayerHits();
-        EXPECT_EQ(first->isSnake(), old);
-        EXPECT_EQ(second->isSnake(), old);
+        EXPECT_EQ(formOf(*players[0]), old ? "snake of 12" : "dead");
+        EXPECT_EQ(formOf(*players[1]), old ? "snake of 12" : "crawling, shielded");
+        EXPECT_EQ(formOf(*players[2]), "snake of 12");
+        EXPECT_EQ(players[0]->kills + players[1]->kills, 0);
     });
 }
 
 TEST(Since_0_95_15, RocketsStepOnceAPass) {
     playBothSides(replayVersion(0, 95, 15), [](TestRound& round, bool old) {
-        const auto owner = round.addPlayer({1, 1});
-        placeRocket({5, 5}, owner, Facing::Right);
+        placeRocket({5, 5}, round.addPlayer({1, 1}), Facing::Right);
         round.game().updateBombs();
         // The old pass meets it again on the next square and counts its frame there too.
         EXPECT_EQ(bombGrid.at(6, 5).rocketStep, old ? 1 : 0);
     });
 }
 
-TEST(Since_0_95_16, AFlameStunsAComputersSnake) {
-    playBothSides(replayVersion(0, 95, 16), [](TestRound& round, bool old) {
-        const auto killer = round.addPlayer({1, 1});
-        const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
-        snake->hurt(DeathReason::Explosion, round.replay(), killer);
-        EXPECT_EQ(snake->dead, old);
-        EXPECT_EQ(snake->slowTimer, old ? 0 : 180);
-        EXPECT_EQ(snake->snakeLengthNow(), old ? 0 : 12) << "the halving came a release later";
-        EXPECT_EQ(killer->kills, old ? 1 : 0);
-    });
+// What a hit makes of a computer's snake of twelve in the release before a change and from it on.
+TEST(SnakesOfTheComputer, ThatAreHitFareByTheRelease) {
+    struct Row {
+        int gate;
+        DeathReason reason;
+        const char* before;
+        const char* since;
+        int stunBefore;
+    };
+    constexpr Row rows[] = {
+        // A flame on the head stuns, and since the release after that it halves, too.
+        {replayVersion(0, 95, 16), DeathReason::Explosion, "dead", "snake of 12", 0},
+        {replayVersion(0, 95, 17), DeathReason::Explosion, "snake of 12", "snake of 6, shielded", 180},
+        {replayVersion(1, 0, 10), DeathReason::PushedWall, "snake of 12", "dead", 0},
+        {replayVersion(1, 0, 10), DeathReason::Wall, "snake of 12", "dead", 0},
+    };
+    for (const Row& row : rows) {
+        playBothSides(row.gate, [&row](TestRound& round, bool old) {
+            const auto killer = round.addPlayer({1, 1});
+            const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
+            snake->hurt(row.reason, round.replay(), killer);
+            const std::string form = old ? row.before : row.since;
+            EXPECT_EQ(formOf(*snake), form);
+            EXPECT_EQ(killer->kills, form == "snake of 12" ? 0 : 1);
+            EXPECT_EQ(snake->slowTimer, row.reason == DeathReason::Explosion ? (old ? row.stunBefore : 180) : 0);
+        });
+    }
 }
 
 TEST(Since_0_95_16, ASlowedSnakeOfAnySortMovesAPixelAFrame) {
@@ -139,15 +156,6 @@ TEST(Since_0_95_16, ASlowedSnakeOfAnySortMovesAPixelAFrame) {
     });
 }
 
-TEST(Since_0_95_17, TheStunHalves) {
-    playBothSides(replayVersion(0, 95, 17), [](TestRound& round, bool old) {
-        const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
-        snake->hurt(DeathReason::Explosion, round.replay(), nullptr);
-        EXPECT_EQ(snake->snakeLengthNow(), old ? 12 : 6);
-        EXPECT_EQ(snake->shield, !old);
-    });
-}
-
 TEST(Since_0_95_20, ANewSnakeLooksForAWayOut) {
     playBothSides(replayVersion(0, 95, 20), [](TestRound& round, bool old) {
         squareGrid.set(5, 6, SquareKind::GridBlock);
@@ -157,9 +165,8 @@ TEST(Since_0_95_20, ANewSnakeLooksForAWayOut) {
 
 TEST(Since_0_95_26, AWaveThatAWallStoppedBurnsOut) {
     playBothSides(replayVersion(0, 95, 26), [](TestRound& round, bool old) {
-        const auto owner = round.addPlayer({13, 9});
         squareGrid.set(7, 5, SquareKind::GridBlock);
-        placeBomb({5, 5}, owner, 0);
+        placeBomb({5, 5}, round.addPlayer({13, 9}), 0);
         EXPECT_NE(round.stepUntil([&] { return isFlame(round.game(), {6, 5}); }), -1);
         round.step(5);  // to the wall, at the pace of these releases
         EXPECT_EQ(isFlame(round.game(), {6, 5}), !old);
@@ -170,8 +177,7 @@ TEST(Since_0_95_26, AWaveThatAWallStoppedBurnsOut) {
 TEST(Since_0_95_28, FlamesStartOneSquareOutAndScaleWithTheRate) {
     playBothSides(replayVersion(0, 95, 28),
                   [](TestRound& round, bool old) {
-                      const auto owner = round.addPlayer({13, 9});
-                      round.game().explodeBomb({5, 5}, owner);
+                      round.game().explodeBomb({5, 5}, round.addPlayer({13, 9}));
                       const auto& flames = round.game().explosions;
                       ASSERT_EQ(flames.size(), 12U);
                       constexpr int oldTimers[] = {0, 4, 8};
@@ -197,25 +203,27 @@ TEST(Since_0_95_28, TheTimerOfAFlameFallsBeforeItIsTested) {
         flame.dx = 1;
         flame.timer = 2;
         round.game().explosions = {flame};
-        round.game().updateExplosions();
-        EXPECT_EQ(round.game().explosions.at(0).x, 5);
-        round.game().updateExplosions();
-        EXPECT_EQ(round.game().explosions.at(0).x, old ? 5 : 6);
-        round.game().updateExplosions();
-        EXPECT_EQ(round.game().explosions.at(0).x, 6);
+        for (const int x : {5, old ? 5 : 6, 6}) {
+            round.game().updateExplosions();
+            EXPECT_EQ(round.game().explosions.at(0).x, x);
+        }
     });
+}
+
+// The strong player on (4, 5) pushes a wall to (6, 5).
+std::shared_ptr<Player> pushWall(TestRound& round) {
+    const auto pusher = round.addPlayer({4, 5});
+    pusher->strength = true;
+    squareGrid.set(5, 5, SquareKind::Wall);
+    act(round, *pusher, {.right = true});
+    EXPECT_EQ(squareGrid.at(6, 5), SquareKind::Wall);
+    return pusher;
 }
 
 TEST(Since_0_96_13, APushedWallCrushes) {
     playBothSides(replayVersion(0, 96, 13), [](TestRound& round, bool old) {
         const auto victim = round.addPlayer({6, 5});
-        const auto pusher = round.addPlayer({4, 5});
-        pusher->strength = true;
-        squareGrid.set(5, 5, SquareKind::Wall);
-        round.hold(*pusher, {.right = true});
-        round.step();
-        EXPECT_EQ(pusher->kills, old ? 0 : 1);
-        EXPECT_EQ(squareGrid.at(6, 5), SquareKind::Wall);
+        EXPECT_EQ(pushWall(round)->kills, old ? 0 : 1);
         EXPECT_TRUE(victim->dead) << "by the wall that it then stands in, where not by the push";
     });
 }
@@ -223,32 +231,12 @@ TEST(Since_0_96_13, APushedWallCrushes) {
 TEST(Since_1_0_10, AWallPushedOnASnakeIsThePushersHit) {
     for (const bool head : {true, false}) {
         playBothSides(replayVersion(1, 0, 10), [head](TestRound& round, bool old) {
-            const auto pusher = round.addPlayer({4, 5});
-            pusher->strength = true;
-            squareGrid.set(5, 5, SquareKind::Wall);
             const auto snake = round.addSnake(head ? Square{6, 5} : Square{10, 8}, Facing::Up, 12, true);
-            snake->snakeParts.assign(12, {10 * 32, 8 * 32, Facing::Up});
+            layParts(*snake, {10, 8}, 8, head ? Square{10, 8} : Square{6, 5});
             snake->stopTimer = 100;
-            if (!head) {
-                snake->snakeParts[8] = {6 * 32, 5 * 32, Facing::Up};
-            }
-            round.hold(*pusher, {.right = true});
-            round.step();
-            EXPECT_EQ(squareGrid.at(6, 5), SquareKind::Wall);
-            EXPECT_EQ(pusher->kills, old ? 0 : 1);
-            EXPECT_EQ(snake->dead, head && !old);
+            EXPECT_EQ(pushWall(round)->kills, old ? 0 : 1);
             // A wall that has come to stand on a part halves in any release, by nobody's hand.
-            EXPECT_EQ(snake->snakeLengthNow(), head ? (old ? 12 : 0) : 6);
-        });
-    }
-}
-
-TEST(Since_1_0_10, PushedWallAndWallMeanSomethingToASnake) {
-    for (const DeathReason reason : {DeathReason::PushedWall, DeathReason::Wall}) {
-        playBothSides(replayVersion(1, 0, 10), [reason](TestRound& round, bool old) {
-            const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
-            snake->hurt(reason, round.replay(), nullptr);
-            EXPECT_EQ(snake->dead, !old);
+            EXPECT_EQ(formOf(*snake), !head ? "snake of 6, shielded" : old ? "snake of 12" : "dead");
         });
     }
 }
@@ -256,8 +244,8 @@ TEST(Since_1_0_10, PushedWallAndWallMeanSomethingToASnake) {
 TEST(Since_1_0_10, PartsThatTheSnakeHasNoLongerAreNotHit) {
     playBothSides(replayVersion(1, 0, 10), [](TestRound& round, bool old) {
         const auto snake = round.addSnake({8, 8}, Facing::Up, 12);
+        layParts(*snake, {8, 8}, 10, {5, 5});
         snake->setSnakeLength(8);
-        snake->snakeParts[10] = {5 * 32, 5 * 32, Facing::Up};
         squareGrid.set(5, 5, SquareKind::Wall);
         round.game().checkPlayerHits();
         EXPECT_EQ(snake->snakeLengthNow(), old ? 4 : 8);
@@ -267,28 +255,15 @@ TEST(Since_1_0_10, PartsThatTheSnakeHasNoLongerAreNotHit) {
 TEST(Since_1_0_11, ACrawlerMayNotBid) {
     playBothSides(replayVersion(1, 0, 11), [](TestRound& round, bool old) {
         const auto player = round.addPlayer({5, 5});
-        player->crawling = true;
-        player->crawlTimer = 500;
+        asCrawler(*player);
         player->cash = 5;
         round.game().auction = std::make_unique<Auction>();
         round.game().auction->timer = 1000;
-        round.hold(*player, {.button2 = true});
-        round.step();
+        act(round, *player, {.button2 = true});
         EXPECT_EQ(player->canUsePowerups(), old);
         EXPECT_EQ(round.game().auction->price, old ? 1 : 0);
         EXPECT_EQ(player->pingTimer, 60);
     });
-}
-
-// A game that is played now, and a replay whose version is not known, go by today's rules.
-TEST(LivePlay, GoesByTodaysRulesAtEveryGate) {
-    TestRound round;
-    for (const int gate : {replayVersion(0, 0, 2), replayVersion(0, 95, 28), replayOutputVersion}) {
-        EXPECT_FALSE(round.replay().isOlderThan(gate));
-    }
-    const auto snake = round.addSnake({5, 5}, Facing::Up, 12, true);
-    snake->hurt(DeathReason::Explosion, round.replay(), nullptr);
-    EXPECT_EQ(snake->snakeLengthNow(), 6);
 }
 
 }  // namespace
