@@ -1,7 +1,7 @@
 // The beginning of a round and of a life, the wait of the dead, and the square where each mode brings them back.
 #include <gtest/gtest.h>
 
-#include "support/round_fixture.h"
+#include "players/in_words.h"
 
 namespace vandrel {
 namespace {
@@ -18,12 +18,12 @@ TEST(StartOfRound, LocksTheFireAndForgetsTheRoundBefore) {
     player->animFrame = 5;
     player->facing = Facing::Left;
     player->startRound();
+    EXPECT_EQ(formOf(*player), "walking");
     EXPECT_TRUE(player->fireLocked);
     EXPECT_TRUE(player->snakeParts.empty() && player->particles.empty());
     EXPECT_EQ(player->kills, 0);
     EXPECT_EQ(player->wins, 2);
     EXPECT_EQ(player->cash, 3);
-    EXPECT_FALSE(player->dead || player->shield || player->isSnake());
     EXPECT_EQ(player->animFrame, 1);
     EXPECT_EQ(player->facing, Facing::Down);
 }
@@ -33,10 +33,11 @@ TEST(StartOfRound, AsSnakesLooksTowardTheMiddle) {
         int y;
         bool ai;
         Facing facing;
-        int length;
+        const char* form;
     };
-    constexpr Row rows[] = {
-        {5 * 32 + 16, false, Facing::Down, 4}, {5 * 32 + 17, false, Facing::Up, 4}, {9 * 32, true, Facing::Up, 9}};
+    constexpr Row rows[] = {{5 * 32 + 16, false, Facing::Down, "snake of 4"},
+                            {5 * 32 + 17, false, Facing::Up, "snake of 4"},
+                            {9 * 32, true, Facing::Up, "snake of 9"}};
     for (const bool shielded : {false, true}) {
         for (const Row& row : rows) {
             TestRound round;
@@ -49,8 +50,7 @@ TEST(StartOfRound, AsSnakesLooksTowardTheMiddle) {
             player->shieldTimer = 7;
             player->startRound();
             EXPECT_EQ(player->facing, row.facing);
-            EXPECT_EQ(player->snakeLengthNow(), row.length);
-            EXPECT_EQ(player->shield, shielded);
+            EXPECT_EQ(formOf(*player), std::string(row.form) + (shielded ? ", shielded" : ""));
             EXPECT_EQ(player->shieldTimer, shielded ? Player::lastingShield() : 7);
             EXPECT_EQ(round.takeHeard(), (std::vector<HeardSample>{{SampleIds::Snake, 255}}));
         }
@@ -102,19 +102,13 @@ TEST(Respawn, OpensAPlusOfTwoSquaresAndShieldsForTwoSeconds) {
     player->respawnTimer = 1;
     round.step();
     EXPECT_EQ(player->position(), (Pixel{7 * 32, 2 * 32}));
-    EXPECT_TRUE(player->shield && !player->dead);
+    EXPECT_EQ(formOf(*player), "walking, shielded");
     EXPECT_EQ(player->shieldTimer, Player::runningShield());
     EXPECT_EQ(player->bombType, BombType::Normal);
-    for (int x = 5; x <= 9; ++x) {
-        EXPECT_EQ(squareGrid.at(x, 2), SquareKind::Empty) << x;
-        EXPECT_EQ(bonusGrid.at(x, 2), 0) << x;
-    }
-    EXPECT_EQ(squareGrid.at(7, 1), SquareKind::Empty);
-    EXPECT_EQ(squareGrid.at(7, 0), SquareKind::EdgeWall);
-    EXPECT_EQ(squareGrid.at(7, 3), SquareKind::GridBlock);
-    EXPECT_EQ(squareGrid.at(7, 4), SquareKind::Empty);
-    for (const Square square : {Square{4, 2}, Square{10, 2}, Square{6, 1}, Square{8, 3}, Square{7, 5}}) {
-        EXPECT_EQ(squareGrid.at(square), SquareKind::Wall);
+    const char* opened[] = {"###############", "#wwwwww.wwwwww#", "#wwww.....wwww#",
+                            "#wwwwwwXwwwwww#", "#wwwwww.wwwwww#", "#wwwwwwwwwwwww#"};
+    for (int y = 0; y < 6; ++y) {
+        EXPECT_EQ(rowOf(round.game(), y), opened[y]);
     }
     EXPECT_EQ(bonusGrid.at(4, 2), Bonus::Cash);
 }
@@ -176,13 +170,10 @@ TEST(RespawnPosition, WalksTowardTheBaseOrTheMiddleAsTheModeSays) {
 }
 
 TEST(Respawn, WaitsBeforeItsRingOnceTheSpiralHasAllButClosed) {
-    struct Row {
-        int timer;
-        bool frozen;
-    };
     for (const int rate : {60, 120}) {
         const int ring = 2 * rate * (rate / 60);
-        for (const Row& row : {Row{ring + 1, true}, Row{ring, false}, Row{5, false}}) {
+        for (const int timer : {ring + 1, ring, 5}) {
+            SCOPED_TRACE(fmt::format("{} frames at {}", timer, rate));
             TestRound round({.rate = rate, .mode = GameMode::Deathmatch});
             gameOptions.shrinkingOn = false;
             round.game().shrinkState = ShrinkState::Shrinking;
@@ -191,12 +182,13 @@ TEST(Respawn, WaitsBeforeItsRingOnceTheSpiralHasAllButClosed) {
             squareGrid.set(5, 6, SquareKind::EdgeWall);
             const auto player = round.addPlayer({3, 3});
             player->die();
-            player->respawnTimer = row.timer;
+            player->respawnTimer = timer;
             round.step(3);
-            EXPECT_EQ(player->respawnTimer, row.frozen ? row.timer : row.timer - 3) << row.timer << " at " << rate;
+            const int left = timer > ring ? timer : timer - 3;
+            EXPECT_EQ(player->respawnTimer, left);
             squareGrid.set(5, 6, SquareKind::Empty);
             round.step();
-            EXPECT_EQ(player->respawnTimer, row.timer - (row.frozen ? 1 : 4)) << "with room to come back it goes on";
+            EXPECT_EQ(player->respawnTimer, left - 1) << "with room to come back it goes on";
         }
     }
 }
@@ -211,16 +203,14 @@ TEST(Dead, HaveNoInputAndDropTheirFlagWhereItIs) {
     flag.inBase = false;
     flag.moveTo({170, 160});
     flag.carrier = player;
-    round.game().flags = {Flag{}, flag};
-    round.game().flags[0].team = 0;
-    round.game().flags[0].moveTo({32, 160});
+    round.game().flags = {flag};
     player->die();
     round.hold(*player, {.right = true, .fire = true});
     player->update(round.replay(), &round.game(), false);
     EXPECT_EQ(player->position(), (Pixel{160, 160}));
     EXPECT_EQ(countBombs(*player), 0);
-    EXPECT_TRUE(round.game().flags[1].carrier.expired());
-    EXPECT_EQ(round.game().flags[1].position(), (Pixel{170, 160}));
+    EXPECT_TRUE(round.game().flags[0].carrier.expired());
+    EXPECT_EQ(round.game().flags[0].position(), (Pixel{170, 160}));
 }
 
 TEST(Player, OfATeamLeavesItWhenItGoes) {
