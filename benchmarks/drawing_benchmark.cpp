@@ -28,6 +28,7 @@
 #include "presentation/text.h"
 #include "shell/frame_counter.h"
 #include "shell/game_screen.h"
+#include "shell/large_blocks.h"
 #include "shell/log.h"
 
 namespace vandrel {
@@ -70,6 +71,7 @@ void startDisplay() {
     if (al_get_current_display() != nullptr) {
         return;
     }
+    keepLargeBlocksApart();
     setDebugOutput([](const char* /*line*/, std::size_t /*length*/) {});
     if (!al_init() || !al_init_image_addon() || !al_init_primitives_addon() || !al_init_font_addon() ||
         !al_init_ttf_addon()) {
