@@ -74,29 +74,6 @@ TEST_F(AuctionTest, TwoWhoBidInOneUpdateRaiseTwiceAndTheLaterPaysAndGetsThree) {
     EXPECT_EQ(first->cash, 3);
 }
 
-TEST_F(AuctionTest, AWinnerWhoCannotUsePowerupsGetsNothingAndKeepsTheCash) {
-    struct Case {
-        const char* form;
-        bool Player::*is;
-    };
-    gameOptions.respawnTime = 100;
-    for (const Case& c : {Case{"dead", &Player::dead}, {"a ghost", &Player::ghost}, {"crawling", &Player::crawling}}) {
-        SCOPED_TRACE(c.form);
-        ASSERT_GT(round.stepUntil([&] { return auction() != nullptr; }), 0);
-        round.press(*first, bid);
-        round.press(*second, bid);
-        const int bombs = second->maxBombs;
-        (*second).*c.is = true;
-        second->shieldTimer = Player::lastingShield();
-        second->respawnTimer = second->crawlTimer = 10'000;
-        ASSERT_GT(untilItIsOver(), 0);
-        EXPECT_EQ(second->cash, 3);
-        EXPECT_EQ(second->maxBombs, bombs);
-        EXPECT_EQ(first->cash, 3) << "nobody else wins either";
-        (*second).*c.is = false;
-    }
-}
-
 TEST_F(AuctionTest, ABidInTheUpdateInWhichItEndsFindsNone) {
     round.step();
     round.game().auction->timer = 1;

@@ -1,5 +1,5 @@
-// When, where and how many walls come back is told by the golden rounds, where one pixel of a walk depends on each.
-// Here is what live play adds, what the rules of old replays leave out, and what a wall waits for.
+// When, where and how many walls come back, and what they wait for, is told by the golden rounds, where one pixel of a
+// walk depends on each. Here is what live play adds, and what the rules of old replays leave out.
 #include <gtest/gtest.h>
 
 #include "support/round_fixture.h"
@@ -34,25 +34,6 @@ TEST(RespawningWalls, StandAHundredTwentyUpdatesAfterTheirAnnouncementWithAPower
         EXPECT_EQ(squareGrid.at(square), SquareKind::Wall) << rate;
         EXPECT_EQ(bonusGrid.at(square), Bonus::Speed);
     }
-}
-
-TEST(RespawningWalls, WaitForPeoplePowerupsWallsAndSnakesToBeGone) {
-    TestRound round(returning(60));
-    const auto player = round.addPlayer({3, 3});
-    const auto canStandAt = [&](Square square) { return canRespawnWallAt(round.game(), square); };
-    EXPECT_FALSE(canStandAt({3, 3}));
-    player->dead = true;
-    EXPECT_TRUE(canStandAt({3, 3})) << "the dead do not matter";
-    placeBomb({5, 5}, player, 90);
-    EXPECT_TRUE(canStandAt({5, 5})) << "nor do bombs";
-    squareGrid.set(6, 5, SquareKind::WallCrumbling);
-    EXPECT_TRUE(canStandAt({6, 5})) << "nor crumbling walls";
-    bonusGrid.at(7, 5) = Bonus::Cash;
-    EXPECT_FALSE(canStandAt({7, 5}));
-    squareGrid.set(8, 5, SquareKind::HardWall);
-    EXPECT_FALSE(canStandAt({8, 5}));
-    round.addSnake({9, 5}, Facing::Right, 4);
-    EXPECT_FALSE(canStandAt({9, 5}));
 }
 
 TEST(RespawningWalls, AreUnknownToReplaysFromBeforeThem) {
