@@ -99,27 +99,21 @@ TEST_F(DevicesTest, AScanOfAPadWithoutNamesLogsItsEmptyRows) {
               "0: 1 controllers detected:\n0: \n0: \tSticks:\n0: \t\t; Axes: \n0: \tButtons: \n");
 }
 
-TEST_F(DevicesTest, AtMostAHundredDevicesAreThereFromTheStart) {
-    for (int i = 0; i < 98; ++i) {
-        driver->plugPlainPad("p");
-    }
+TEST_F(DevicesTest, AtMostAHundredAreThereAndKeyboardsTakeTheirPlaceWhenPadsThatLeftThemNoneArePulled) {
+    std::vector<std::shared_ptr<FakePad>> pads;
+    const auto plugUpTo = [&](std::size_t count) {
+        while (pads.size() < count) {
+            pads.push_back(driver->plugPlainPad("p"));
+        }
+    };
+    plugUpTo(98);
     const ControlsManager nearlyFull(driver);
     ASSERT_EQ(nearlyFull.devices.size(), 100U);
     EXPECT_EQ(nearlyFull.devices[99]->buttonText(ControlInput::Up), "W") << "two key sets find a place";
-    for (int i = 0; i < 5; ++i) {
-        driver->plugPlainPad("p");
-    }
-    const ControlsManager full(driver);
-    ASSERT_EQ(full.devices.size(), 100U);
-    EXPECT_EQ(full.devices[99]->description(), "p");
-}
-
-TEST_F(DevicesTest, KeyboardsTakeTheirPlaceWhenPadsThatLeftThemNoneArePulledAtOnce) {
-    std::vector<std::shared_ptr<FakePad>> pads;
-    for (int i = 0; i < maxDevices; ++i) {
-        pads.push_back(driver->plugPlainPad("p"));
-    }
+    plugUpTo(103);
     ControlsManager manager(driver);
+    ASSERT_EQ(manager.devices.size(), 100U);
+    EXPECT_EQ(manager.devices[99]->description(), "p");
     for (const auto& pad : pads) {
         pad->plugged = false;
     }

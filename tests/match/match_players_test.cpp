@@ -17,19 +17,14 @@ TEST(QuickStartTeams, AreCountedByModeAndPlayers) {
         int teamCount;
     };
     const GameOptions before = gameOptions;
-    for (const TeamCase& c : std::vector<TeamCase>{{GameMode::BattleRoyale, 2, 10, 2},
-                                                   {GameMode::BattleRoyale, 3, 10, 2},
-                                                   {GameMode::BattleRoyale, 8, 10, 2},
-                                                   {GameMode::BattleRoyale, 9, 10, 3},
-                                                   {GameMode::BattleRoyale, 30, 10, 10},
-                                                   {GameMode::BattleRoyale, 33, 10, 10},
-                                                   {GameMode::BattleRoyale, 100, 4, 4},
-                                                   {GameMode::KingOfTheHill, 5, 10, 2},
-                                                   {GameMode::KingOfTheHill, 9, 10, 3},
-                                                   {GameMode::KingOfTheHill, 12, 10, 4},
-                                                   {GameMode::KingOfTheHill, 30, 10, 4},
-                                                   {GameMode::CaptureTheFlag, 30, 10, 2},
-                                                   {GameMode::Everything, 30, 10, 2}}) {
+    for (const TeamCase& c :
+         {TeamCase{GameMode::BattleRoyale, 2, 10, 2}, TeamCase{GameMode::BattleRoyale, 3, 10, 2},
+          TeamCase{GameMode::BattleRoyale, 8, 10, 2}, TeamCase{GameMode::BattleRoyale, 9, 10, 3},
+          TeamCase{GameMode::BattleRoyale, 30, 10, 10}, TeamCase{GameMode::BattleRoyale, 33, 10, 10},
+          TeamCase{GameMode::BattleRoyale, 100, 4, 4}, TeamCase{GameMode::KingOfTheHill, 5, 10, 2},
+          TeamCase{GameMode::KingOfTheHill, 9, 10, 3}, TeamCase{GameMode::KingOfTheHill, 12, 10, 4},
+          TeamCase{GameMode::KingOfTheHill, 30, 10, 4}, TeamCase{GameMode::CaptureTheFlag, 30, 10, 2},
+          TeamCase{GameMode::Everything, 30, 10, 2}}) {
         fillTeamPalettes();
         teamColours.resize(c.colours);
         gameOptions.gameMode = c.mode;
