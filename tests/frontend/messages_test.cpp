@@ -53,14 +53,6 @@ TEST_F(MessageScreen, CentresItsRowsOnThePage) {
 }
 
 TEST_F(MessageScreen, EndsByItsKeysAlone) {
-    struct Case {
-        const char* what;
-        int heldBefore;  // on the screen before; 0 for no key
-        int cancelKey;
-        std::function<std::set<int>(int tick)> keys;
-        bool answer;
-        int ticks;
-    };
     const auto pressedAt = [](int key, int from) {
         return [key, from](int tick) { return tick >= from ? std::set<int>{key} : std::set<int>{}; };
     };
@@ -68,20 +60,21 @@ TEST_F(MessageScreen, EndsByItsKeysAlone) {
     const auto letGoAndPressedAgain = [](int tick) {
         return tick == 7 || tick == 8 ? std::set<int>{} : std::set<int>{ALLEGRO_KEY_Y};
     };
-    const Case cases[] = {
+    // The key held on the screen before, or 0; the cancel key; the keys; the answer, and after how many ticks.
+    const std::tuple<const char*, int, int, std::function<std::set<int>(int tick)>, bool, int> cases[] = {
         {"the OK key", 0, ALLEGRO_KEY_ESCAPE, pressedAt(ALLEGRO_KEY_Y, 5), true, 5},
         {"the cancel key", 0, ALLEGRO_KEY_ESCAPE, pressedAt(ALLEGRO_KEY_ESCAPE, 5), false, 5},
         {"no cancel key", 0, noCancelKey, escapeThenOk, true, 9},
         {"an OK key still held", ALLEGRO_KEY_Y, ALLEGRO_KEY_ESCAPE, letGoAndPressedAgain, true, 9},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        keysAt = [&c](int) { return std::set<int>{c.heldBefore}; };
+    for (const auto& [what, heldBefore, cancelKey, keys, answer, ticks] : cases) {
+        SCOPED_TRACE(what);
+        keysAt = [held = heldBefore](int) { return std::set<int>{held}; };
         menuKeyPressed(ALLEGRO_KEY_Y, menuControlMode, false);
         menuKeyPressed(ALLEGRO_KEY_ESCAPE, menuControlMode, false);
-        keysAt = c.keys;
-        EXPECT_EQ(msgScreen({"?"}, ALLEGRO_KEY_Y, c.cancelKey), c.answer);
-        EXPECT_EQ(totalTicks, c.ticks);
+        keysAt = keys;
+        EXPECT_EQ(msgScreen({"?"}, ALLEGRO_KEY_Y, cancelKey), answer);
+        EXPECT_EQ(totalTicks, ticks);
     }
 }
 

@@ -104,17 +104,9 @@ TEST_F(OptionScreens, RowsAndPresets) {
 }
 
 TEST_F(OptionScreens, EachNumberAndChoiceEditsItsFieldWithinItsRange) {
-    struct Case {
-        const char* screen;
-        const char* label;
-        int GameOptions::*field;
-        int lowest;
-        int highest;
-        const char* lowestName;
-        const char* highestName;
-    };
     using O = GameOptions;
-    const Case cases[] = {
+    // The screen and its row; what it edits, from where to where, and how both ends are called.
+    const std::tuple<const char*, const char*, int O::*, int, int, const char*, const char*> rows[] = {
         {"Start game", "Arena Size", &O::arenaSize, 0, 13, "Auto", "UltraWideHuge"},
         {"Start game", "Wins Needed", &O::winsNeeded, 3, 10, "3", "10"},
         {"Start game", "Auctions", &O::auctions, 0, 3, "Off", "Infrequent"},
@@ -143,20 +135,20 @@ TEST_F(OptionScreens, EachNumberAndChoiceEditsItsFieldWithinItsRange) {
         {"Snake Hunter", "Major stun time (head)", &O::majorStunTime, 0, 600, "0", "600"},
         {"Snake Hunter", "Minor stun time (body)", &O::minorStunTime, 0, 600, "0", "600"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.label);
-        const auto menu = open(c.screen);
-        CmdButtonBase& entry = rowOf(*menu, c.label);
-        int& field = gameOptions.*c.field;
-        field = c.highest - 1;
+    for (const auto& [screenName, label, option, lowest, highest, lowestName, highestName] : rows) {
+        SCOPED_TRACE(label);
+        const auto menu = open(screenName);
+        CmdButtonBase& entry = rowOf(*menu, label);
+        int& field = gameOptions.*option;
+        field = highest - 1;
         entry.press();
-        EXPECT_EQ(field, c.highest);
-        EXPECT_EQ(entry.valueText(), c.highestName);
+        EXPECT_EQ(field, highest);
+        EXPECT_EQ(entry.valueText(), highestName);
         entry.increase();
-        EXPECT_EQ(field, c.lowest);
-        EXPECT_EQ(entry.valueText(), c.lowestName);
+        EXPECT_EQ(field, lowest);
+        EXPECT_EQ(entry.valueText(), lowestName);
         entry.decrease();
-        EXPECT_EQ(field, c.highest);
+        EXPECT_EQ(field, highest);
     }
 }
 

@@ -8,6 +8,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "shell/shell_test_tools.h"
+
 namespace vandrel {
 namespace {
 
@@ -15,12 +17,6 @@ namespace fs = std::filesystem;
 
 class ImageIndexTest : public ::testing::Test {
   protected:
-    ImageIndexTest() {
-        std::string name = (fs::temp_directory_path() / "vandrel-index-XXXXXX").string();
-        root_ = mkdtemp(name.data());
-    }
-    ~ImageIndexTest() override { fs::remove_all(root_); }
-
     void touch(const std::string& path) const {
         fs::create_directories((root_ / path).parent_path());
         std::ofstream(root_ / path) << "x";
@@ -29,7 +25,8 @@ class ImageIndexTest : public ::testing::Test {
         return fs::relative(ImageIndex(root_).pathOf(name), root_).string();
     }
 
-    fs::path root_;
+    test::ScratchDirectory folder_;
+    fs::path root_ = folder_.path;
 };
 
 TEST_F(ImageIndexTest, SearchesSubdirectoriesOnly) {

@@ -1,5 +1,6 @@
 #include "shell/paths.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <pwd.h>
 #include <sys/stat.h>
@@ -53,13 +54,8 @@ TEST(PathsTest, AFolderThatCannotBeMadeNamesTheOperation) {
     const ScratchDirectory root;
     writeFile(root.path + "/file", "");
     const ScopedEnvironment xdg("XDG_DATA_HOME", root.path + "/file/deeper");
-    try {
-        appDataDir();
-        FAIL() << "a directory below a file";
-    } catch (const std::filesystem::filesystem_error& failure) {
-        EXPECT_NE(std::string(failure.what()).find("create_directory"), std::string::npos) << failure.what();
-        EXPECT_EQ(failure.code(), std::errc::not_a_directory);
-    }
+    EXPECT_THAT(appDataDir, testing::ThrowsMessage<std::filesystem::filesystem_error>(testing::AllOf(
+                                testing::HasSubstr("create_directory"), testing::HasSubstr("Not a directory"))));
 }
 
 }  // namespace
