@@ -13,7 +13,7 @@ namespace {
 // Team 0 has its base on (1, 5), team 1 on (13, 5); both flags are at home.
 class Flags : public testing::Test {
   protected:
-    explicit Flags(GameMode mode = GameMode::CaptureTheFlag) : round({.mode = mode}) {
+    Flags() {
         round.addTeam({1, 5});
         round.addTeam({13, 5});
         for (int team = 0; team < 2; ++team) {
@@ -40,7 +40,7 @@ class Flags : public testing::Test {
     // The player's own update alone: loose flags do not slide.
     void updatePlayer() { player->update(round.replay(), &round.game(), false); }
 
-    TestRound round;
+    TestRound round{{.mode = GameMode::CaptureTheFlag}};
     std::shared_ptr<Player> player;
 };
 
@@ -163,12 +163,8 @@ TEST_F(Flags, OfNobodyAreNotRecoveredByWhoHasNoTeamEither) {
     EXPECT_TRUE(carries(1)) << "a neutral flag goes home by capture only";
 }
 
-class FlagsInEverything : public Flags {
-  protected:
-    FlagsInEverything() : Flags(GameMode::Everything) {}
-};
-
-TEST_F(FlagsInEverything, EarnTheirPoints) {
+TEST_F(Flags, EarnTheirPointsInEverythingWhereTheModeIsOn) {
+    gameOptions.gameMode = GameMode::Everything;
     gameOptions.flagCapturePoints = 17;
     giveTo(player, 1);
     player->x = 32;

@@ -6,16 +6,25 @@
 namespace vandrel {
 namespace {
 
+constexpr Square ahead{6, 5};
+constexpr Square farOff{20, 8};
+
 // A human's snake in the middle of the arena that looks right, and room before it.
-class SnakeForm : public testing::Test {
-  protected:
-    // A snake that stands still, with all of its body on one square.
-    std::shared_ptr<Player> addResting(Square head, Square body) {
-        const auto other = round.addSnake(head, Facing::Up, 2);
+struct SnakeRound : TestRound {
+    SnakeRound() : TestRound({.size = {30, 11}}), snake(addSnake({5, 5}, Facing::Right, 4)) {}
+
+    // Another that stands still, with all of its body on one square.
+    void addResting(Square head, Square body) {
+        const auto other = addSnake(head, Facing::Up, 2);
         other->stopTimer = 1000;
         layParts(*other, body, 0, body);
-        return other;
     }
+
+    std::shared_ptr<Player> snake;
+};
+
+class SnakeForm : public testing::Test {
+  protected:
     void expectAt(Pixel place, const char* why = "") { EXPECT_EQ(snake->position(), place) << why; }
     std::vector<Pixel> partPlaces() const {
         std::vector<Pixel> places;
@@ -25,8 +34,8 @@ class SnakeForm : public testing::Test {
         return places;
     }
 
-    TestRound round{{.size = {30, 11}}};
-    std::shared_ptr<Player> snake = round.addSnake({5, 5}, Facing::Right, 4);
+    SnakeRound round;
+    std::shared_ptr<Player> snake = round.snake;
 };
 
 TEST_F(SnakeForm, MovesByItselfAndTurnsOnGridLinesOnly) {
@@ -67,39 +76,32 @@ TEST_F(SnakeForm, ForwardAndBackwardAreNoTurnAndABlockedSideIsNone) {
 }
 
 // On the line the head asks before it enters; between the lines it goes on to the next.
-TEST_F(SnakeForm, StandsStillOnTheLineBeforeWhatBlocksItUntilItIsTurned) {
-    const auto other = addResting({20, 8}, {20, 8});
+TEST(SnakeBeforeAThing, StandsStillOnTheLineUntilItIsTurned) {
     struct Row {
         const char* what;
-        int kind;
-        Square head;
-        Square body;
+        void (*put)(SnakeRound& round);
     };
-    constexpr Row rows[] = {{"a pillar", SquareKind::GridBlock, {20, 8}, {20, 8}},
-                            {"an edge", SquareKind::EdgeWall, {20, 8}, {20, 8}},
-                            {"a head", SquareKind::Empty, {6, 5}, {6, 7}},
-                            {"a body", SquareKind::Empty, {6, 8}, {6, 5}}};
+    const Row rows[] = {
+        {"a pillar", [](SnakeRound&) { squareGrid.set(ahead, SquareKind::GridBlock); }},
+        {"an edge", [](SnakeRound&) { squareGrid.set(ahead, SquareKind::EdgeWall); }},
+        {"a head", [](SnakeRound& round) { round.addResting(ahead, farOff); }},
+        {"a body", [](SnakeRound& round) { round.addResting(farOff, ahead); }},
+    };
     for (const Row& row : rows) {
-        snake->x = 128;
-        snake->y = 160;
-        snake->facing = Facing::Right;
-        snake->snakeHistory.clear();
-        snake->snakeParts.clear();
-        squareGrid.set(6, 5, row.kind);
-        other->x = row.head.x * 32;
-        other->y = row.head.y * 32;
-        layParts(*other, row.body, 0, row.body);
-        act(round, *snake, {}, 30);
-        expectAt({160, 160}, row.what);
-        EXPECT_TRUE(snake->isSnake());
-        act(round, *snake, {.down = true});
-        expectAt({160, 163}, row.what);
+        SnakeRound round;
+        round.snake->x -= 32;
+        row.put(round);
+        round.step(30);
+        EXPECT_EQ(round.snake->position(), (Pixel{160, 160})) << row.what;
+        EXPECT_TRUE(round.snake->isSnake()) << row.what;
+        act(round, *round.snake, {.down = true});
+        EXPECT_EQ(round.snake->position(), (Pixel{160, 163})) << row.what;
     }
 }
 
 TEST_F(SnakeForm, BetweenTheLinesABodyAheadDoesNotStopIt) {
     snake->x += 5;
-    addResting({6, 8}, {6, 5});
+    round.addResting(farOff, ahead);
     round.step();
     expectAt({168, 160});
 }
@@ -168,28 +170,34 @@ TEST_F(SnakeForm, UnfoldsFromOneSpotWithSixteenPixelsOfPathBetweenParts) {
     EXPECT_EQ(std::get<2>(snake->snakeParts[1]), Facing::Right);
 }
 
+constexpr Square behind{1, 3};
+constexpr Square below{2, 4};
+
 // The head looks at a pillar, and what is below it is all that may be open; its body is where it came from.
 TEST(SnakeInANook, EndsWhereThereIsNoWayOutEvenUnderAShield) {
-    enum class Below { Pillar, Wall, Bomb, OwnBody };
-    for (const Below below : {Below::Pillar, Below::Wall, Below::Bomb, Below::OwnBody}) {
+    struct Row {
+        const char* what;
+        void (*put)(const std::shared_ptr<Player>& snake);
+        bool trapped;
+    };
+    const Row rows[] = {
+        {"a pillar", [](auto&) { squareGrid.set(below, SquareKind::GridBlock); }, true},
+        {"a wall", [](auto&) { squareGrid.set(below, SquareKind::Wall); }, false},
+        {"a bomb", [](auto& snake) { placeBomb(below, snake, 5000); }, false},
+        {"its own body", [](auto& snake) { layParts(*snake, behind, 5, below); }, true},
+    };
+    for (const Row& row : rows) {
         for (const bool ai : {false, true}) {
-            SCOPED_TRACE(fmt::format("below {}, ai {}", static_cast<int>(below), ai));
             TestRound round({.rows = {"########", "#......#", "#.XX...#", "#..XX..#", "#......#", "########"},
                              .version = replayOutputVersion});
-            squareGrid.set(2, 4,
-                           below == Below::Pillar ? SquareKind::GridBlock
-                           : below == Below::Wall ? SquareKind::Wall
-                                                  : SquareKind::Empty);
             const auto snake = round.addSnake({2, 3}, Facing::Right, 6, ai);
-            layParts(*snake, {1, 3}, 5, below == Below::OwnBody ? Square{2, 4} : Square{1, 3});
-            if (below == Below::Bomb) {
-                placeBomb({2, 4}, snake, 5000);
-            }
+            layParts(*snake, behind, 0, behind);
+            row.put(snake);
             snake->shield = true;
             snake->shieldTimer = 100;
             round.step();
-            const bool trapped = below == Below::Pillar || below == Below::OwnBody;
-            EXPECT_EQ(formOf(*snake), !trapped ? "snake of 6, shielded" : ai ? "dead, shielded" : "crawling, shielded");
+            const char* end = ai ? "dead, shielded" : "crawling, shielded";
+            EXPECT_EQ(formOf(*snake), row.trapped ? end : "snake of 6, shielded") << row.what;
         }
     }
 }

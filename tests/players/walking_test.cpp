@@ -6,6 +6,12 @@
 namespace vandrel {
 namespace {
 
+// The squares right of the player, and one far off.
+constexpr Square ahead{6, 5};
+constexpr Square aboveAhead{6, 4};
+constexpr Square belowAhead{6, 6};
+constexpr Square farOff{9, 5};
+
 // A player in the middle of an arena, which a test may fill and empty again between two steps.
 class Walking : public testing::Test {
   protected:
@@ -94,7 +100,7 @@ TEST_F(Walking, IsDrawnToTheMiddleOfTheLaneWhileItGoesOn) {
 }
 
 TEST_F(Walking, BeforeWhatBlocksItGoesBackOrOnToItsOwnLineAndStaysThere) {
-    squareGrid.set(6, 5, SquareKind::GridBlock);
+    squareGrid.set(ahead, SquareKind::GridBlock);
     for (const auto& way : {std::vector{165, 163, 161, 160, 160}, {155, 157, 159, 160, 160}, {160, 160, 160}}) {
         player->x = way.front();
         for (std::size_t i = 1; i < way.size(); ++i) {
@@ -105,41 +111,33 @@ TEST_F(Walking, BeforeWhatBlocksItGoesBackOrOnToItsOwnLineAndStaysThere) {
 }
 
 // What stands on the square ahead, and who may go there.
-TEST_F(Walking, IsBlockedByWhatBlocksItsForm) {
-    const auto snake = round.addSnake({9, 5}, Facing::Right, 1);
+TEST(WalkingAhead, IsBlockedByWhatBlocksTheForm) {
     struct Row {
         const char* what;
-        int kind;
-        bool bomb;
-        bool body;
+        void (*put)(TestRound& round);
         bool walkerPasses;
         bool ghostPasses;
     };
-    constexpr Row rows[] = {
-        {"nothing", 0, false, false, true, true},
-        {"an edge wall", SquareKind::EdgeWall, false, false, false, false},
-        {"a pillar", SquareKind::GridBlock, false, false, false, true},
-        {"a wall", SquareKind::Wall, false, false, false, true},
-        {"a hard wall", SquareKind::HardWallHitTwice, false, false, false, true},
-        {"a crumbling wall", SquareKind::WallCrumbling + 3, false, false, false, true},
-        {"a bomb", 0, true, false, false, true},
-        {"a body", 0, false, true, false, true},
+    const Row rows[] = {
+        {"nothing", [](auto&) {}, true, true},
+        {"an edge wall", [](auto&) { squareGrid.set(ahead, SquareKind::EdgeWall); }, false, false},
+        {"a pillar", [](auto&) { squareGrid.set(ahead, SquareKind::GridBlock); }, false, true},
+        {"a wall", [](auto&) { squareGrid.set(ahead, SquareKind::Wall); }, false, true},
+        {"a hard wall", [](auto&) { squareGrid.set(ahead, SquareKind::HardWallHitTwice); }, false, true},
+        {"a crumbling wall", [](auto&) { squareGrid.set(ahead, SquareKind::WallCrumbling + 3); }, false, true},
+        {"a bomb", [](auto&) { placeBomb(ahead, players[0], 500); }, false, true},
+        {"a body", [](auto& round) { layParts(*round.addSnake(farOff, Facing::Right, 1), ahead, 0, ahead); }, false,
+         true},
     };
     for (const Row& row : rows) {
         for (const bool ghost : {false, true}) {
-            player->reset();
-            standAt({160, 160});
-            if (ghost) {
-                asGhost(*player);
-            }
-            squareGrid.set(6, 5, row.kind);
-            bombGrid.edit(6, 5) = Bomb{};
-            if (row.bomb) {
-                placeBomb({6, 5}, player, 500);
-            }
-            snake->snakeParts.front() = {row.body ? 192 : 320, 160, Facing::Right};
-            const bool passes = ghost ? row.ghostPasses : row.walkerPasses;
-            EXPECT_EQ(step({.right = true}).x, passes ? 162 : 160) << row.what << (ghost ? ", a ghost" : "");
+            TestRound round;
+            const auto player = round.addPlayer({5, 5});
+            (ghost ? asGhost : asItIs)(*player);
+            row.put(round);
+            act(round, *player, {.right = true});
+            EXPECT_EQ(player->x, (ghost ? row.ghostPasses : row.walkerPasses) ? 162 : 160)
+                << row.what << (ghost ? ", a ghost" : "");
         }
     }
 }
@@ -151,31 +149,42 @@ TEST_F(Walking, PlayersShareASquareAndLeaveTheBombTheyStandOn) {
     EXPECT_EQ(player->square(), other->square());
 }
 
-// The block stands on (6, 5), to the right of the player, who is `offset` pixels off the lane.
-TEST_F(Walking, SlidesRoundTheCornerOfABlockOnlyPastTheMiddleAndOnlyIntoTheFree) {
+// A block stands on (6, 5), to the right of the player, who is some pixels off the lane.
+TEST(WalkingPastACorner, SlidesRoundItOnlyPastTheMiddleOnlyIntoTheFreeAndOnlyFromTheFree) {
     struct Row {
+        const char* what;
         int offset;
-        int kindAbove;  // of (6, 4)
-        int kindBelow;  // of (6, 6)
+        void (*put)(const std::shared_ptr<Player>& player);
         int dy;
     };
-    constexpr Row rows[] = {
-        {0, 0, 0, 0},
-        {3, 0, 0, 2},
-        {-3, 0, 0, -2},
-        {3, 0, SquareKind::Wall, 0},
-        {-3, SquareKind::Wall, 0, 0},
-        {-3, 0, SquareKind::Wall, -2},
-        {3, 0, SquareKind::WallCrumbling, 0},
-        {15, 0, 0, 2},
-        {-16, 0, 0, -2},
+    const Row rows[] = {
+        {"in the middle of the lane", 0, [](auto&) {}, 0},
+        {"below it", 3, [](auto&) {}, 2},
+        {"above it", -3, [](auto&) {}, -2},
+        {"as far below as can be", 15, [](auto&) {}, 2},
+        {"as far above as can be", -16, [](auto&) {}, -2},
+        {"a wall on the way down", 3, [](auto&) { squareGrid.set(belowAhead, SquareKind::Wall); }, 0},
+        {"a wall on the way up", -3, [](auto&) { squareGrid.set(aboveAhead, SquareKind::Wall); }, 0},
+        {"a wall on the other side", -3, [](auto&) { squareGrid.set(belowAhead, SquareKind::Wall); }, -2},
+        {"a crumbling wall on the way", 3, [](auto&) { squareGrid.set(belowAhead, SquareKind::WallCrumbling); }, 0},
+        {"a bomb on the way", -5, [](auto& player) { placeBomb(aboveAhead, player, 500); }, 0},
+        {"a wall under its own corner", -5, [](auto&) { squareGrid.set(5, 4, SquareKind::Wall); }, 0},
+        {"the same for a ghost before an edge wall", -5,
+         [](auto& player) {
+             squareGrid.set(5, 4, SquareKind::Wall);
+             squareGrid.set(ahead, SquareKind::EdgeWall);
+             asGhost(*player);
+         },
+         -2},
     };
-    squareGrid.set(6, 5, SquareKind::GridBlock);
     for (const Row& row : rows) {
-        squareGrid.set(6, 4, row.kindAbove);
-        squareGrid.set(6, 6, row.kindBelow);
-        standAt({160, 160 + row.offset});
-        EXPECT_EQ(step({.right = true}), (Pixel{160, 160 + row.offset + row.dy})) << "row " << &row - rows;
+        TestRound round;
+        const auto player = round.addPlayer({5, 5});
+        player->y += row.offset;
+        squareGrid.set(ahead, SquareKind::GridBlock);
+        row.put(player);
+        act(round, *player, {.right = true});
+        EXPECT_EQ(player->position(), (Pixel{160, 160 + row.offset + row.dy})) << row.what;
     }
 }
 
@@ -185,33 +194,6 @@ TEST_F(Walking, ReachesTheNextLaneRoundTheCornerWithTheOneKeyHeld) {
     act(round, *player, {.up = true}, 30);
     EXPECT_EQ(player->x, 6 * 32);
     EXPECT_LT(player->y, 160);
-}
-
-TEST_F(Walking, CornersHeldByABombOrOverAWallAreNotSlidRound) {
-    struct Row {
-        bool bomb;
-        bool wallUnderCorner;
-        bool ghost;
-        bool slides;
-    };
-    constexpr Row rows[] = {{false, false, false, true},
-                            {true, false, false, false},
-                            {false, true, false, false},
-                            {false, true, true, true}};
-    for (const Row& row : rows) {
-        player->reset();
-        standAt({160, 155});
-        if (row.ghost) {
-            asGhost(*player);
-        }
-        squareGrid.set(6, 5, row.ghost ? SquareKind::EdgeWall : SquareKind::GridBlock);
-        squareGrid.set(5, 4, row.wallUnderCorner ? SquareKind::Wall : SquareKind::Empty);
-        bombGrid.edit(6, 4) = Bomb{};
-        if (row.bomb) {
-            placeBomb({6, 4}, player, 500);
-        }
-        EXPECT_EQ(step({.right = true}).y, 155 - (row.slides ? 2 : 0)) << "row " << &row - rows;
-    }
 }
 
 TEST_F(Walking, ACrawlerKeepsItsSideOnTheWayUpAndDown) {
