@@ -13,11 +13,11 @@ namespace {
 // The sanitizers have an allocator of their own.
 TEST(LargeBlocks, StayApartBehindTheFirstThatWasFreed) {
     keepLargeBlocksApart();
-    constexpr std::size_t page = 28U << 20U;
-    constexpr std::size_t picture = 24U << 20U;
-    std::vector<char>(page, 'a');
+    constexpr std::size_t first = 28U << 20U;
+    constexpr std::size_t second = 24U << 20U;
+    std::vector<char>(first, 'a');
     const std::size_t apart = mallinfo2().hblks;
-    const std::vector<char> later(picture, 'a');
+    const std::vector<char> later(second, 'a');
     EXPECT_EQ(mallinfo2().hblks, apart + 1) << later.size();
 }
 #endif
