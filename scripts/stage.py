@@ -6,6 +6,7 @@ the owner of the object, by process, never by name.
 """
 
 import array
+import contextlib
 import ctypes
 import os
 import select
@@ -219,6 +220,27 @@ class VirtualScreen:
                             delete, 0, 0, 0, 0)
         x11.XSendEvent(display, ctypes.c_ulong(window), 0, ctypes.c_long(0), event.ljust(192, b"\0"))
         x11.XCloseDisplay(display)
+
+    @contextlib.contextmanager
+    def other_window(self):
+        """Another window, in the corner, that has the keys as long as the context lasts. They go back to the one under
+        the pointer."""
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        x11.XCreateSimpleWindow.restype = ctypes.c_ulong
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.environment["DISPLAY"].encode()))
+        root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
+        size, revert_to_pointer = 20, 1
+        window = ctypes.c_ulong(x11.XCreateSimpleWindow(display, root, 0, 0, size, size, 0, ctypes.c_ulong(0),
+                                                        ctypes.c_ulong(0)))
+        x11.XMapRaised(display, window)
+        x11.XSetInputFocus(display, window, revert_to_pointer, ctypes.c_ulong(0))
+        x11.XSync(display, 0)
+        try:
+            yield
+        finally:
+            x11.XCloseDisplay(display)
 
     def _window(self, *search):
         """The number of the window that a search of xdotool finds, once there is one."""

@@ -1,3 +1,4 @@
+#define ALLEGRO_UNSTABLE  // for al_clear_keyboard_state
 #include "input/keyboard.h"
 
 #include <allegro5/allegro.h>
@@ -36,6 +37,12 @@ bool wasKeyReleased(int keycode) {
     const bool down = isKeyDown(keycode);
     const bool before = std::exchange(wasDown[keycode], down);
     return before && !down;
+}
+
+void letGoOfKeys() {
+    if (al_is_keyboard_installed()) {
+        al_clear_keyboard_state(nullptr);
+    }
 }
 
 std::string keyName(int keycode) {

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "input/controls_manager.h"
+#include "input/keyboard.h"
 #include "shell/display.h"
 #include "shell/frame_overlay.h"
 #include "shell/log.h"
@@ -67,6 +68,9 @@ void takeEvents(const std::function<void()>& onControllersChanged, const std::fu
                 if (onCloseButton) {
                     onCloseButton();
                 }
+                break;
+            case ALLEGRO_EVENT_DISPLAY_SWITCH_OUT:
+                letGoOfKeys();
                 break;
             case ALLEGRO_EVENT_DISPLAY_LOST:
                 logText("ALLEGRO_EVENT_DISPLAY_LOST\n");

@@ -1,6 +1,7 @@
 """Every screen of the menus, opened and left by keys, and which settings outlive the process."""
 
 import configparser
+import time
 import unittest
 
 from game_test_case import FIRST_PLAYER, KNOWN_PLAYERS, SECOND_PLAYER, GameTestCase, has_light, stage
@@ -240,6 +241,28 @@ class MenusTest(GameTestCase):
             stage.wait_for(lambda: self.keys.highlight() is None, "the round")
         self.assertNotIn("Quit\n", self.game.errors())
         self.assertEqual(self.leave(self.game), 0)
+
+    def test_keys_that_are_held_when_another_window_takes_them_are_let_go_of(self):
+        self.open_child(self.open_menus(), 0)
+        before = self.keys.look()
+        self.screen.press("Down")
+        stage.wait_for(lambda: self.keys.look() != before, "the menu to move")
+        with self.screen.other_window():
+            stage.wait_for(self.stands_still, "the menu to stand still without the keys", timeout=20)
+            self.screen.release("Down")
+        stage.wait_for(self.stands_still, "the menu to stand still with the keys again", timeout=20)
+        self.keys.step("Down")
+        self.assertEqual(self.leave(self.game), 0)
+
+    def stands_still(self):
+        """Whether the menu looks the same for longer than a held key needs for some ways round it, at times that do not
+        keep step with it."""
+        before = self.keys.look()
+        for pause in (0.11, 0.19, 0.31, 0.07, 0.41, 0.23, 0.13, 0.37, 0.29):
+            time.sleep(pause)
+            if self.keys.look() != before:
+                return False
+        return True
 
     def stored(self):
         """The keys of the configuration file with their values."""
