@@ -133,7 +133,7 @@ TEST(Placement, OfACrowdThatFindsNoRoomIsAnError) {
         const Crowd crowd(mode, 80, 2, {19, 11});
         EXPECT_THROW(Crowd::starts(), Game::PlayerPositionSetupError) << static_cast<int>(mode);
     }
-    const TestRound round({.rows = {"#####", "#XXX#", "#XXX#", "#XXX#", "#####"}, .mode = GameMode::Classic});
+    const TestRound round({.rows = {"#####", "#####", "#####", "#####", "#####"}, .mode = GameMode::Classic});
     gameOptions.numPlayers = 18;  // one more than the list has
     try {
         Crowd::starts();
