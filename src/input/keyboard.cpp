@@ -40,6 +40,7 @@ bool wasKeyReleased(int keycode) {
 }
 
 void letGoOfKeys() {
+    wasDown.clear();
     if (al_is_keyboard_installed()) {
         al_clear_keyboard_state(nullptr);
     }

@@ -13,7 +13,8 @@ bool isKeyDown(int keycode);
 // while an overlay suspends the game.
 bool wasKeyReleased(int keycode);
 
-// Takes all keys for let go of. For when another window gets the keys: it also gets the release of those that are held.
+// Takes all keys for let go of, without a release. For when another window gets the keys: it also gets the release of
+// those that are held.
 void letGoOfKeys();
 
 // The platform's name of a key, such as "Up" or "Control_R".

@@ -123,6 +123,7 @@ void holdMixBack(void* samplePairs, unsigned pairs, void* /*data*/) {
 }
 
 void makeMixers() {
+    mixGain = 1;
     voice = al_create_voice(sampleRate, ALLEGRO_AUDIO_DEPTH_INT16, ALLEGRO_CHANNEL_CONF_2);
     require(voice != nullptr, "al_create_voice failed");
     mainMixer = makeMixer();

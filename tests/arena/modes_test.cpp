@@ -85,10 +85,10 @@ TEST(Hill, ScoresOnceASecondForTheLivingOfATeamUpToItsBordersAndTheNumberAtTheBa
         game.hillRight = 10;
         game.hillTop = 4;
         game.hillBottom = 6;
-        const auto king = round.addPlayer({10, 6}, 0);
+        const auto king = round.addPlayer(rate == 60 ? Square{8, 4} : Square{10, 6}, 0);
         round.addPlayer({11, 6}, 0);
         round.addPlayer({9, 5});
-        const auto ghost = round.addPlayer({8, 4}, 1);
+        const auto ghost = round.addPlayer({9, 5}, 1);
         ghost->ghost = true;
         ghost->shieldTimer = Player::lastingShield();
         const auto dead = round.addPlayer({9, 5}, 1);

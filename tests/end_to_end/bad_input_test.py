@@ -31,6 +31,7 @@ ABSURD_CONFIGURATIONS = {
     "words for numbers": "[video]\nwidth=wide\nheight=high\nupdaterate=fast\n[sound]\nmusicVolume=loud\n",
     "numbers out of all bounds": "[video]\nwidth=-5\nheight=99999999999\nupdaterate=-60\ndisplay=99\n"
                                  "[controls]\nmenuControlMode=7\n[lootbox]\nlootboxPoints=-1\n",
+    "the largest numbers": "[video]\nupdaterate=2147483647\n[lootbox]\nlootboxPoints=2147483647\n",
     "no configuration at all": "\0\1\2]]][[[\n====\nwidth\n",
     "an empty file": "",
 }

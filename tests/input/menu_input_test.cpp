@@ -192,6 +192,12 @@ TEST_F(InputTest, AReleaseIsToldOnce) {
     EXPECT_FALSE(wasKeyReleased(ALLEGRO_KEY_F7));
     EXPECT_TRUE(wasKeyReleased(ALLEGRO_KEY_F8));
     EXPECT_FALSE(wasKeyReleased(ALLEGRO_KEY_F8));
+
+    keys = {ALLEGRO_KEY_F8};
+    EXPECT_FALSE(wasKeyReleased(ALLEGRO_KEY_F8));
+    letGoOfKeys();
+    keys.clear();
+    EXPECT_FALSE(wasKeyReleased(ALLEGRO_KEY_F8)) << "another window has taken the key, nobody has let go of it";
 }
 
 TEST_F(InputTest, AnOverlayHidesTheKeyboardAndFreezesTheLatches) {

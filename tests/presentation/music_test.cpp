@@ -224,7 +224,7 @@ TEST_F(HeardMusic, FiveHundredFadesStopsAndDestructions) {
         const auto volume = static_cast<int>(generator() % 256);
         const std::function<void()> calls[] = {
             [&one] { one->stop(); }, [&one] { one.reset(); }, [&] { one->setVolume(volume); },
-            [&] { one->fadeTo(static_cast<float>(generator() % 50) / 100.0f, volume); }};
+            [&] { one->fadeTo(static_cast<float>(1 + generator() % 50) / 100.0f, volume); }};
         calls[std::min(generator() % 6, std::mt19937::result_type{3})]();
         playSample(SampleIds::Beat2);
         wait(static_cast<int>(generator() % 8));

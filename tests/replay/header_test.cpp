@@ -1,4 +1,4 @@
-// The head of a replay: where each field lies, what comes back of it, and what is refused.
+// The head of a replay: where each field lies, what comes back of it, and what is refused, there and behind it.
 #include <gmock/gmock.h>
 
 #include <sstream>
@@ -209,6 +209,31 @@ TEST_F(RecordedHeader, OfALaterReleaseIsNotRead) {
     }
 }
 
+// Any byte of the head may be anything: the round then plays, ends early or is refused, and nothing worse.
+TEST_F(RecordedHeader, SurvivesAnyByte) {
+    const std::size_t headerEnd = bytes_.find("***") + 3;
+    int refused = 0;
+    int played = 0;
+    for (std::size_t offset = 0; offset < headerEnd; ++offset) {
+        for (const int value : {0, 127, 255}) {
+            std::string changed = bytes_;
+            changed[offset] = static_cast<char>(value);
+            writeFile(path_, changed);
+            try {
+                HeadlessPlayback playback(path_);
+                while (playback.step()) {
+                }
+                ++played;
+            } catch (const std::exception&) {
+                ++refused;
+            }
+        }
+    }
+    EXPECT_EQ(readFile(path_).size(), bytes_.size()) << "playing changes no file";
+    EXPECT_GT(played, 100);
+    EXPECT_GT(refused, 100);
+}
+
 TEST_F(RecordedHeader, OfAnotherArenaThanTheOptionsSayIsNotWritten) {
     gameOptions.arenaSizeResolved = 2;
     grid_squares_x = 19;
@@ -217,6 +242,31 @@ TEST_F(RecordedHeader, OfAnotherArenaThanTheOptionsSayIsNotWritten) {
     EXPECT_THAT(
         [&] { writeReplayHeader(stream); },
         ThrowsMessage<std::runtime_error>(StartsWith("Assertion failed: 'arenaSize.y == grid_squares_y' at line ")));
+}
+
+TEST(RecordedAuction, OfAPowerupThatNoReleaseHadIsRefused) {
+    setDebugOutput(nullptr);
+    const ScratchFolder folder;
+    RandomRoundSettings settings;
+    settings.path = folder.file("4.1.1.2.replay");
+    settings.adjustResolved = [] {
+        gameOptions.auctionInterval = 100;
+        players[0]->cash = 1;
+    };
+    gameOptions = GameOptions{};
+    gameOptions.numPlayers = 2;
+    {
+        HeadlessRecording round(settings);
+        round.step();
+        round.finish();
+    }
+    std::string bytes = readFile(settings.path);
+    const auto update = static_cast<std::size_t>(HeadlessPlayback(settings.path).position());
+    bytes.at(bytes.find('A', update) + 1) = bonusCount;
+    writeFile(settings.path, bytes);
+    HeadlessPlayback playback(settings.path);
+    EXPECT_THAT([&] { playback.step(); },
+                ThrowsMessage<std::runtime_error>("Replay field auction bonus has the value 22"));
 }
 
 }  // namespace

@@ -113,7 +113,8 @@ TEST_F(FramePumpTest, EventsBecomeUpdatesAndAFrame) {
         EXPECT_EQ(std::tuple(pendingTicks, totalTicks, renderedFrames),
                   std::tuple(c.pendingAfter, c.ticks, std::ranges::count(c.calls, 'R')));
         // The list of devices tells of itself behind the line of the pump.
-        EXPECT_EQ(c.logged.empty() ? log.text() : log.text().substr(0, c.logged.size()), c.logged);
+        const bool devicesLog = c.events.find('J') != std::string::npos;
+        EXPECT_EQ(devicesLog ? log.text().substr(0, c.logged.size()) : log.text(), c.logged);
     }
     emit("JT");
     int asked = 0;
