@@ -9,7 +9,7 @@
 #include "audio/tunes/render.h"
 #include "audio/tunes/score.h"
 
-namespace vandrel {
+namespace vandrel::art {
 namespace {
 
 const std::string head =
@@ -160,4 +160,4 @@ TEST(ScoreNotation, FaultsAreNamedWithTheirLine) {
 }
 
 }  // namespace
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -14,7 +14,7 @@
 #include "audio/synth/filters.h"
 #include "audio/synth/wav_file.h"
 
-namespace vandrel {
+namespace vandrel::art {
 namespace {
 
 const std::filesystem::path soundFolder = std::filesystem::path(VANDREL_SOURCE_DIR) / "game" / "newSound";
@@ -142,4 +142,4 @@ TEST(Sounds, HaveTheShapeTheirMomentAsksFor) {
 }
 
 }  // namespace
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -15,7 +15,7 @@
 #include "audio/synth/wav_file.h"
 #include "audio/tunes/instruments.h"
 
-namespace vandrel {
+namespace vandrel::art {
 namespace {
 
 // How much of `hertz` is in the signal.
@@ -170,4 +170,4 @@ TEST(Synth, WavFilesReadBackAndStrangersAreRefused) {
 }
 
 }  // namespace
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -16,7 +16,7 @@
 #include "audio/tunes/render.h"
 #include "audio/tunes/score.h"
 
-namespace vandrel {
+namespace vandrel::art {
 namespace {
 
 const std::filesystem::path source = VANDREL_SOURCE_DIR;
@@ -172,4 +172,4 @@ TEST(Tunes, TheSameScoreGivesTheSameBytesAndReadsBack) {
 }
 
 }  // namespace
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -7,7 +7,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // The mean strength of `count` frames from `from` on; behind the end a signal begins anew, as a loop does.
 inline double rms(const Signal& signal, std::size_t from, std::size_t count) {
@@ -29,4 +29,4 @@ inline double meanOf(const Signal& signal) {
     return sum / static_cast<double>(signal.size());
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

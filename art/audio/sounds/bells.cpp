@@ -6,7 +6,7 @@
 #include "audio/synth/filters.h"
 #include "audio/synth/oscillators.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -70,4 +70,4 @@ std::span<const Sound> bellSounds() {
     return sounds;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

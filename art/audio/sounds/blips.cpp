@@ -6,7 +6,7 @@
 #include "audio/synth/filters.h"
 #include "audio/synth/oscillators.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -63,4 +63,4 @@ std::span<const Sound> blipSounds() {
     return sounds;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

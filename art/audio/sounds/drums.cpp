@@ -6,7 +6,7 @@
 #include "audio/synth/filters.h"
 #include "audio/synth/oscillators.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -77,4 +77,4 @@ std::span<const Sound> drumSounds() {
     return sounds;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -6,7 +6,7 @@
 #include "audio/synth/filters.h"
 #include "audio/synth/oscillators.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -89,4 +89,4 @@ std::span<const Sound> gustSounds() {
     return sounds;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -6,7 +6,7 @@
 #include "audio/synth/filters.h"
 #include "audio/synth/oscillators.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -95,4 +95,4 @@ std::span<const Sound> mouthSounds() {
     return sounds;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -6,7 +6,7 @@
 #include "audio/synth/filters.h"
 #include "audio/synth/oscillators.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -61,4 +61,4 @@ std::span<const Sound> powerSounds() {
     return sounds;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -6,7 +6,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 struct Sound {
     const char* name;  // of the file, without ".wav"
@@ -24,4 +24,4 @@ std::span<const Sound> blipSounds();
 std::span<const Sound> mouthSounds();
 std::span<const Sound> powerSounds();
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -6,7 +6,7 @@
 #include <tuple>
 #include <utility>
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -178,4 +178,4 @@ void limitLoop(StereoSignal& signal, double ceiling) {
     }
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

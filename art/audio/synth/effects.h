@@ -3,7 +3,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // Rounded peaks: quiet parts pass times `drive`, loud ones press against 1.
 Signal softClipped(Signal source, double drive);
@@ -29,4 +29,4 @@ void levelLoop(StereoSignal& signal, double threshold, double ratio);
 // No peak above `ceiling` (a factor): the level dips ahead of a peak and comes back in some 80 ms. Looped.
 void limitLoop(StereoSignal& signal, double ceiling);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

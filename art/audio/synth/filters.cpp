@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -84,4 +84,4 @@ Biquad Biquad::highPass(double hertz, double quality) {
     return {1.0, -2.0, 1.0, 2.0 * (k * k - 1.0) / a0, (1.0 - k / quality + k * k) / a0};
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

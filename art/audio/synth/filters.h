@@ -4,7 +4,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // Six decibels an octave, cutoff in hertz.
 Signal gentleLowPass(Signal source, double hertz);
@@ -39,4 +39,4 @@ class Biquad {
     double second_ = 0.0;
 };
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -180,4 +180,4 @@ Signal vibrato(Signal hertz, double rate, double semitones, double delay) {
     return hertz;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

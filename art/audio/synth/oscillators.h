@@ -7,7 +7,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 enum class Wave { Sine, Triangle, Saw, Square };
 
@@ -60,4 +60,4 @@ class NoiseSource {
     std::uint32_t state_;
 };
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -130,4 +130,4 @@ Signal finished(Signal signal, double seconds, double peakDecibels, double fadeO
     return scaled(std::move(signal), gain);
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

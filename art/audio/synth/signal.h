@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <vector>
 
-namespace vandrel {
+namespace vandrel::art {
 
 constexpr int sampleRate = 44100;  // frames a second, everywhere
 
@@ -56,4 +56,4 @@ double peakOf(const Signal& signal);
 // seconds out) and the peak at `peakDecibels` below full scale.
 Signal finished(Signal signal, double seconds, double peakDecibels, double fadeOut = 0.02);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

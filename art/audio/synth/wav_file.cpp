@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <vector>
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -61,4 +61,4 @@ Signal readMonoWav(const std::filesystem::path& path) {
     return result;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

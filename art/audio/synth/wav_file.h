@@ -6,7 +6,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // Writes `signal` at 44,100 frames a second, rounded to the nearest of 65,536 steps; beyond full scale is clipped.
 // Folders are made as needed. Throws std::runtime_error with the path when the file cannot be written.
@@ -16,4 +16,4 @@ void writeWav(const std::filesystem::path& path, const StereoSignal& signal);
 // Reads what writeWav wrote for one channel. Throws std::runtime_error with the path for anything else.
 Signal readMonoWav(const std::filesystem::path& path);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

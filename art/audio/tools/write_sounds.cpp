@@ -10,8 +10,8 @@
 
 int main(int argc, char** argv) {
     return vandrel::art::runProgram(argc, argv, 1, 1, "FOLDER", [](const std::vector<std::string>& words) {
-        for (const vandrel::Sound& sound : vandrel::VANDREL_SOUND_FAMILY()) {
-            vandrel::writeWav(std::filesystem::path(words[0]) / fmt::format("{}.wav", sound.name), sound.make());
+        for (const vandrel::art::Sound& sound : vandrel::art::VANDREL_SOUND_FAMILY()) {
+            vandrel::art::writeWav(std::filesystem::path(words[0]) / fmt::format("{}.wav", sound.name), sound.make());
         }
     });
 }

@@ -10,13 +10,13 @@
 int main(int argc, char** argv) {
     return vandrel::art::runProgram(argc, argv, 2, 2, "SCORE FILE.ogg|FILE.wav",
                                     [](const std::vector<std::string>& words) {
-                                        const vandrel::Score score = vandrel::readScore(words[0]);
+                                        const vandrel::art::Score score = vandrel::art::readScore(words[0]);
                                         const std::filesystem::path target(words[1]);
-                                        const vandrel::StereoSignal tune = vandrel::renderScore(score);
+                                        const vandrel::art::StereoSignal tune = vandrel::art::renderScore(score);
                                         if (target.extension() == ".wav") {
-                                            vandrel::writeWav(target, tune);
+                                            vandrel::art::writeWav(target, tune);
                                         } else {
-                                            vandrel::writeOgg(target, tune, score.title);
+                                            vandrel::art::writeOgg(target, tune, score.title);
                                         }
                                     });
 }

@@ -7,7 +7,7 @@
 #include "audio/synth/oscillators.h"
 #include "audio/tunes/instruments.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -169,4 +169,4 @@ std::span<const Instrument> drumInstruments() {
     return instruments;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -138,4 +138,4 @@ std::optional<Chord> chordNamed(std::string_view symbol) {
     return std::nullopt;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vandrel {
+namespace vandrel::art {
 
 // "c4" (60), "f#3", "bb5": a letter, a sharp or flat if any, an octave of 0 to 8. Empty for anything else. The pitch
 // counts semitones; 69 is the a of 440 hertz.
@@ -25,4 +25,4 @@ struct Chord {
 // "F", "Dm", "C7", "Bbmaj7", "Am7/G" ... Empty when it is not one of the known kinds.
 std::optional<Chord> chordNamed(std::string_view symbol);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -8,7 +8,7 @@
 #include "audio/synth/oscillators.h"
 #include "audio/tunes/instruments.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -133,4 +133,4 @@ std::span<const Instrument> heldInstruments() {
     return instruments;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -1,6 +1,6 @@
 #include "audio/tunes/instruments.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 const Instrument* findInstrument(std::string_view name) {
     for (const auto shelf : {struckInstruments(), heldInstruments(), drumInstruments()}) {
@@ -13,4 +13,4 @@ const Instrument* findInstrument(std::string_view name) {
     return nullptr;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -7,7 +7,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // What is asked of an instrument for one note.
 struct Tone {
@@ -31,4 +31,4 @@ std::span<const Instrument> drumInstruments();
 // Null when nothing has that name.
 const Instrument* findInstrument(std::string_view name);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

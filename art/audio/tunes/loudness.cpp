@@ -6,7 +6,7 @@
 
 #include "audio/synth/filters.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -62,4 +62,4 @@ double integratedLoudness(const StereoSignal& signal) {
     return loudnessOf(gatedMean(blocks, loudnessOf(ungated) - 10.0));
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

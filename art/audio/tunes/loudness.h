@@ -4,10 +4,10 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // Integrated loudness in LUFS after ITU-R BS.1770-4: weighted as the ear hears, blocks of 400 ms every 100 ms, gated at
 // -70 and then 10 below the mean of the rest. Minus infinity for silence or less than a block.
 double integratedLoudness(const StereoSignal& signal);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

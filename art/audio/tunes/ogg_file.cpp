@@ -10,7 +10,7 @@
 
 #include "files/whole_file.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -106,7 +106,7 @@ class Encoder {
 }  // namespace
 
 void writeOgg(const std::filesystem::path& path, const StereoSignal& signal, const std::string& title) {
-    art::writeWholeFile(path, Encoder(title).encode(signal));
+    writeWholeFile(path, Encoder(title).encode(signal));
 }
 
 StereoSignal readOgg(const std::filesystem::path& path) {
@@ -137,4 +137,4 @@ StereoSignal readOgg(const std::filesystem::path& path) {
     return result;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

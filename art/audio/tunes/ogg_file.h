@@ -6,7 +6,7 @@
 
 #include "audio/synth/signal.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // Writes `signal` with Vorbis at quality 4.5 and the title as its only remark. The same signal gives the same bytes.
 // Folders are made as needed. Throws std::runtime_error with the path when the encoder or the disk refuses.
@@ -15,4 +15,4 @@ void writeOgg(const std::filesystem::path& path, const StereoSignal& signal, con
 // Decodes a stereo file of 44,100 frames a second. Throws std::runtime_error with the path for anything else.
 StereoSignal readOgg(const std::filesystem::path& path);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -14,7 +14,7 @@
 #include "audio/tunes/instruments.h"
 #include "audio/tunes/loudness.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -190,4 +190,4 @@ StereoSignal renderScore(const Score& score) {
     return std::move(desk.dry);
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vandrel {
+namespace vandrel::art {
 
 enum class Force { Soft, Plain, Accent };
 
@@ -67,4 +67,4 @@ Score parseScore(std::string_view text);
 // The same for a file; a ScoreError's text is led by the path. std::runtime_error when the file cannot be read.
 Score readScore(const std::filesystem::path& path);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

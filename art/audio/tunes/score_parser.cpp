@@ -14,7 +14,7 @@
 #include "audio/tunes/score.h"
 #include "audio/tunes/steps.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -314,4 +314,4 @@ Score readScore(const std::filesystem::path& path) {
     }
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

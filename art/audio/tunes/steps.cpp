@@ -6,7 +6,7 @@
 #include <cctype>
 #include <cmath>
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -214,4 +214,4 @@ void appendBar(std::vector<ScoreNote>& notes, std::string_view bar, double start
     BarReader(notes, voice, chords, line).read(bar, start, 1.0);
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art

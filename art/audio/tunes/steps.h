@@ -9,7 +9,7 @@
 #include "audio/tunes/harmony.h"
 #include "audio/tunes/score.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 // The chords of a part, each with the place where it begins, in bars from the part's start.
 struct PlacedChord {
@@ -25,4 +25,4 @@ const Chord* chordAt(const std::vector<PlacedChord>& chords, double bars);
 void appendBar(std::vector<ScoreNote>& notes, std::string_view bar, double start, const ScoreVoice& voice,
                const std::vector<PlacedChord>& chords, int line);
 
-}  // namespace vandrel
+}  // namespace vandrel::art

@@ -8,7 +8,7 @@
 #include "audio/synth/oscillators.h"
 #include "audio/tunes/instruments.h"
 
-namespace vandrel {
+namespace vandrel::art {
 
 namespace {
 
@@ -135,4 +135,4 @@ std::span<const Instrument> struckInstruments() {
     return instruments;
 }
 
-}  // namespace vandrel
+}  // namespace vandrel::art
