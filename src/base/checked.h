@@ -26,6 +26,16 @@ decltype(auto) checkedKey(Map& map, const Key& key) {
     return (found->second);
 }
 
+// The row of `key` in a table whose rows have the keys `firstKey`, `firstKey` + 1 and so on. Throws std::out_of_range
+// "invalid map<K, T> key".
+template <class Table>
+constexpr const auto& checkedRow(const Table& table, std::ptrdiff_t key, std::ptrdiff_t firstKey = 0) {
+    if (key < firstKey || static_cast<std::size_t>(key - firstKey) >= std::size(table)) {
+        throw std::out_of_range("invalid map<K, T> key");
+    }
+    return table[static_cast<std::size_t>(key - firstKey)];
+}
+
 // The value of `key` in a hash map. Throws std::out_of_range "invalid unordered_map<K, T> key".
 template <class Map, class Key>
 decltype(auto) checkedHashKey(Map& map, const Key& key) {

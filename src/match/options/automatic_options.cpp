@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <map>
+#include <array>
 #include <random>
 #include <string>
 #include <utility>
@@ -20,21 +20,64 @@ namespace vandrel {
 namespace {
 
 // All frame counts are at 60 updates a second.
-const std::map<int, int> sizeByPlayersTeam{{6, 3}, {16, 4}, {40, 5}, {100, 6}};
-const std::map<int, int> sizeByPlayersSolo{{9, 3}, {24, 4}, {64, 5}, {100, 6}};
-const std::map<int, std::pair<int, int>> playerLimits{{1, {1, 2}},    {2, {2, 5}},    {3, {2, 16}},   {4, {6, 64}},
-                                                      {5, {12, 100}}, {6, {16, 100}}, {7, {48, 100}}, {8, {64, 100}}};
-const std::map<int, std::pair<int, int>> playerLimitsWild{{1, {1, 6}},   {2, {2, 16}},  {3, {2, 32}},   {4, {2, 100}},
-                                                          {5, {2, 100}}, {6, {2, 100}}, {7, {64, 100}}, {8, {64, 100}}};
-const std::map<int, int> shrinkSpeedByArena{{1, 0}, {2, 2}, {3, 2},  {4, 2},  {5, 3},  {6, 3}, {7, 3},
-                                            {8, 4}, {9, 1}, {10, 2}, {11, 2}, {12, 3}, {13, 3}};
-const std::map<int, int> timeBeforeByArena{{1, 1}, {2, 2}, {3, 2},  {4, 2},  {5, 2},  {6, 1}, {7, 1},
-                                           {8, 1}, {9, 1}, {10, 2}, {11, 2}, {12, 1}, {13, 1}};
-const std::map<int, int> shrinkSpeedFramesTable{{0, 60}, {1, 32}, {2, 16}, {3, 8}, {4, 4}, {5, 2}};
-const std::map<int, int> timeBeforeFramesTable{{0, 1080}, {1, 2160}, {2, 5400}, {3, 7560}};
-const std::map<int, int> preparationFramesTable{{1, 0}, {2, 200}, {3, 400}, {4, 600}, {5, 1000}};
-const std::map<int, std::pair<int, int>> auctionIntervals{{1, {800, 1200}}, {2, {1200, 2000}}, {3, {2000, 3000}}};
-const std::map<int, int> spawnFramesTable{{1, 0}, {2, 199}, {3, 301}, {4, 401}, {5, 501}};
+
+struct PlayerRange {
+    int fewest;
+    int most;
+};
+
+// What an arena size stands for when it, the shrink speed or the time before shrinking is automatic.
+struct ArenaRow {
+    PlayerRange players;      // that may meet in it
+    PlayerRange wildPlayers;  // the same with the most randomness
+    int shrinkSpeed;          // a row of shrinkSpeedFramesTable
+    int timeBefore;           // a row of timeBeforeFramesTable
+};
+
+// By arena size; the first is Tiny. The ultra-wide sizes are never drawn, so they have no players.
+constexpr int firstArena = 1;
+constexpr std::array<ArenaRow, arenaSizes.size() - firstArena> arenaRows{{
+    {{1, 2}, {1, 6}, 0, 1},
+    {{2, 5}, {2, 16}, 2, 2},
+    {{2, 16}, {2, 32}, 2, 2},
+    {{6, 64}, {2, 100}, 2, 2},
+    {{12, 100}, {2, 100}, 3, 2},
+    {{16, 100}, {2, 100}, 3, 1},
+    {{48, 100}, {64, 100}, 3, 1},
+    {{64, 100}, {64, 100}, 4, 1},
+    {{}, {}, 1, 1},
+    {{}, {}, 2, 2},
+    {{}, {}, 2, 2},
+    {{}, {}, 3, 1},
+    {{}, {}, 3, 1},
+}};
+
+// The arena size for fewer players than `below`. The rows ascend; beyond the last the size is Normal.
+struct SizeByPlayers {
+    int below;
+    int size;
+};
+constexpr std::array<SizeByPlayers, 4> teamSizes{{{6, 3}, {16, 4}, {40, 5}, {100, 6}}};
+constexpr std::array<SizeByPlayers, 4> soloSizes{{{9, 3}, {24, 4}, {64, 5}, {100, 6}}};
+
+constexpr std::array<int, 6> shrinkSpeedFramesTable{60, 32, 16, 8, 4, 2};    // "Very Slow" to "Insane"
+constexpr std::array<int, 4> timeBeforeFramesTable{1080, 2160, 5400, 7560};  // "Very Short" to "Long"
+constexpr int firstSnakeTime = 1;                                            // 0 is Auto
+constexpr int autoSnakeTime = 4;
+constexpr int longSnakeTime = 5;
+constexpr std::array<int, 5> preparationFramesTable{0, 200, 400, 600, 1000};  // "None" to "Long"
+constexpr std::array<int, 5> spawnFramesTable{0, 199, 301, 401, 501};
+
+struct AuctionInterval {
+    int shortest;
+    int longest;
+};
+constexpr int firstAuctionInterval = 1;  // 0 is Off
+constexpr std::array<AuctionInterval, 3> auctionIntervals{{{800, 1200}, {1200, 2000}, {2000, 3000}}};
+
+const ArenaRow& arenaRow(int size) {
+    return checkedRow(arenaRows, size, firstArena);
+}
 
 bool fiveTimesInSix() {
     return gameRand() % 6 > 0;
@@ -84,18 +127,18 @@ class Resolver {
 
 int Resolver::drawArenaSize() {
     const GameMode mode = options_.gameMode;
-    const bool teamSizes = isTeamMode(mode) || mode == GameMode::SnakeHunter;
-    const auto& sizes = teamSizes ? sizeByPlayersTeam : sizeByPlayersSolo;
-    const auto found = sizes.upper_bound(options_.numPlayers);
-    int size = found == sizes.end() ? normalArena : found->second;
+    const bool likeTeams = isTeamMode(mode) || mode == GameMode::SnakeHunter;
+    const auto& sizes = likeTeams ? teamSizes : soloSizes;
+    const auto* const found = std::ranges::upper_bound(sizes, options_.numPlayers, {}, &SizeByPlayers::below);
+    int size = found == sizes.end() ? normalArena : found->size;
     const int spread = isTeamMode(mode) && randomness_ > 0 ? globalInt(randomness_, randomness_ + 1) : randomness_;
-    const auto& limits = randomness_ >= 2 ? playerLimitsWild : playerLimits;
+    const auto players = randomness_ >= 2 ? &ArenaRow::wildPlayers : &ArenaRow::players;
     for (int round = 0; round < 3; ++round) {
         size = std::clamp(size + globalInt(-randomness_, spread), 1, colossalArena);
-        while (options_.numPlayers < checkedKey(limits, size).first) {
+        while (options_.numPlayers < (arenaRow(size).*players).fewest) {
             --size;
         }
-        while (options_.numPlayers > checkedKey(limits, size).second) {
+        while (options_.numPlayers > (arenaRow(size).*players).most) {
             ++size;
         }
     }
@@ -120,7 +163,7 @@ void Resolver::resolveArenaSize() {
 void Resolver::resolveShrinkSpeed() {
     int speed = options_.shrinkSpeed;
     if (speed == autoShrinkSpeed) {
-        speed = checkedKey(shrinkSpeedByArena, arena());
+        speed = arenaRow(arena()).shrinkSpeed;
         for (int i = 0; i < randomness_; ++i) {
             if (globalFloat() > 0.5f) {
                 speed = std::clamp(speed + globalInt(-randomness_, randomness_), 0, 5);
@@ -128,13 +171,13 @@ void Resolver::resolveShrinkSpeed() {
         }
         fragments_.push_back(fmt::format("SSpeed: {:<9}", checkedAt(ShrinkSpeedNames, speed)));
     }
-    options_.shrinkSpeedFrames = checkedKey(shrinkSpeedFramesTable, speed) * options_.frameMultiplier;
+    options_.shrinkSpeedFrames = checkedRow(shrinkSpeedFramesTable, speed) * options_.frameMultiplier;
 }
 
 void Resolver::resolveTimeBeforeShrinking() {
     int time = options_.timeBeforeShrinking;
     if (time == autoTimeBeforeShrinking) {
-        time = checkedKey(timeBeforeByArena, arena());
+        time = arenaRow(arena()).timeBefore;
         if (options_.gameMode == GameMode::SnakeHunter) {
             time = arena() < hugeArena ? 3 : 2;
         } else {
@@ -147,7 +190,7 @@ void Resolver::resolveTimeBeforeShrinking() {
         }
         fragments_.push_back(fmt::format("TimeBeforeS: {:<10}", checkedAt(TimeBeforeShrinkingNames, time)));
     }
-    options_.timeBeforeShrinkingFrames = checkedKey(timeBeforeFramesTable, time) * options_.frameMultiplier;
+    options_.timeBeforeShrinkingFrames = checkedRow(timeBeforeFramesTable, time) * options_.frameMultiplier;
 }
 
 int Resolver::drawShrinkStyle() {
@@ -224,15 +267,16 @@ void Resolver::resolvePowerupDensity() {
 
 void Resolver::resolveSnakes() {
     const int others = std::max(options_.numPlayers - 1, 1);
-    const int preparation = options_.preparationTime != 0 ? checkedKey(preparationFramesTable, options_.preparationTime)
-                                                          : checkedKey(preparationFramesTable, 4) / others;
+    const int preparation = options_.preparationTime != 0
+                                ? checkedRow(preparationFramesTable, options_.preparationTime, firstSnakeTime)
+                                : checkedRow(preparationFramesTable, autoSnakeTime, firstSnakeTime) / others;
     options_.snakePreparationFrames = preparation * options_.frameMultiplier;
 
     int spawn = 0;
     if (options_.spawnInterval != 0) {
-        spawn = checkedKey(spawnFramesTable, options_.spawnInterval);
+        spawn = checkedRow(spawnFramesTable, options_.spawnInterval, firstSnakeTime);
     } else {
-        spawn = checkedKey(spawnFramesTable, 4) / others;
+        spawn = checkedRow(spawnFramesTable, autoSnakeTime, firstSnakeTime) / others;
         fragments_.push_back(fmt::format("SnakeInterval (unmod): {:<4}", spawn));
     }
     options_.snakeSpawnFrames = spawn * options_.frameMultiplier;
@@ -251,7 +295,8 @@ void Resolver::resolveSnakes() {
         if (options_.spawnInterval == 0) {
             options_.snakeSpawnFrames *= 5;
             fragments_.push_back(fmt::format("SnakeInterval (mod): {:<4}", options_.snakeSpawnFrames));
-            options_.snakeSpawnFrames = std::min(options_.snakeSpawnFrames, checkedKey(spawnFramesTable, 5));
+            options_.snakeSpawnFrames =
+                std::min(options_.snakeSpawnFrames, checkedRow(spawnFramesTable, longSnakeTime, firstSnakeTime));
         }
     } else {
         options_.snakesAtOnce = 1;
@@ -285,8 +330,14 @@ void Resolver::resolveSearchAndRespawningWalls() {
 }
 
 void Resolver::resolveAuctions() {
-    const auto row = auctionIntervals.find(options_.auctions);
-    options_.auctionInterval = row == auctionIntervals.end() ? 0 : globalInt(row->second.first, row->second.second);
+    // The setting can be any number when it comes from a replay or a test; what is no row means no auctions.
+    const int row = options_.auctions - firstAuctionInterval;
+    if (row < 0 || row >= static_cast<int>(auctionIntervals.size())) {
+        options_.auctionInterval = 0;
+        return;
+    }
+    const AuctionInterval interval = checkedAt(auctionIntervals, row);
+    options_.auctionInterval = globalInt(interval.shortest, interval.longest);
 }
 
 }  // namespace
