@@ -29,7 +29,8 @@ void drawFigure(TrophyShow& show, const Player& player, Pixel pivot, const Bitma
         pivot = {static_cast<int>(flight->x), static_cast<int>(flight->y)};
         rotation = flight->rotation;
     }
-    const Sprite& sprite = getSprite(makeKey(player, standingFrame, Facing::Down));
+    const SpriteKey key = makeKey(player, standingFrame, Facing::Down);
+    const Sprite& sprite = getSprite(key);
     drawRotated(target, sprite.picture->bitmap, spritePivot.x, spritePivot.y, pivot.x, pivot.y,
                 rotation * anglePerRadian, 1.0f);
 }

@@ -54,7 +54,8 @@ void drawRespawnRing(const BitmapWrapper& target, const Player& player) {
     const int twice = 2 * player.respawnTimer;
     const float radius = static_cast<float>(twice) / static_cast<float>(gameOptions.frameMultiplier);
     const int alpha = opaque - std::min(twice, opaque) / gameOptions.frameMultiplier;
-    const Sprite& sprite = getSprite(makeKey(player, 0, Facing::Down));
+    const SpriteKey key = makeKey(player, 0, Facing::Down);
+    const Sprite& sprite = getSprite(key);
     const Pixel spot = squareToPixel(player.respawnPosition()) + sprite.offset;
     for (float angle = 0.0f; angle < fullTurn; angle += eighthTurn) {
         const float x = static_cast<float>(spot.x) + radius * std::sin(angle);
