@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <set>
 #include <string_view>
@@ -12,6 +13,7 @@
 #include "players/player.h"
 #include "replay/tool/commands.h"
 #include "replay/tool/headless_playback.h"
+#include "replay/tool/state_digest.h"
 #include "replay/unit/gzip.h"
 #include "replay/unit/proof.h"
 #include "replay_bytes.h"
@@ -87,6 +89,7 @@ void playAll(const std::vector<std::string>& paths, Reached* reached) {
     for (const std::string& path : paths) {
         SCOPED_TRACE(path);
         proof = Proof{};
+        DigestCheck digest(path);
         HeadlessPlayback playback(path);
         if (reached != nullptr) {
             reached->modes.insert(static_cast<int>(gameOptions.gameMode));
@@ -98,11 +101,13 @@ void playAll(const std::vector<std::string>& paths, Reached* reached) {
         while (runs) {
             ASSERT_NO_THROW(runs = playback.step()) << "frame " << frameCounter;
             if (reached != nullptr) {
+                ASSERT_NO_THROW(digest.compare(playback.game()));
                 reached->look(playback.game());
             }
         }
         playback.requireAllPlayed();
         ASSERT_NO_THROW(playback.finish());
+        EXPECT_TRUE(std::filesystem::exists(digestPath(path)));
         EXPECT_GT(proof.positions, 0);
         EXPECT_GE(proof.positions, proof.inputs) << "whoever gives input is compared";
         if (reached != nullptr) {

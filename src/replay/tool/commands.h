@@ -26,6 +26,7 @@ extern const Command infoCommand;
 extern const Command verifyCommand;
 extern const Command playRandomCommand;
 extern const Command traceCommand;
+extern const Command digestCommand;
 
 // Runs vandrel-replay: finds the command, shows help, and turns failures into one line on standard error. Exit status
 // 0, 1 for a failure, 2 for wrong usage.

@@ -16,7 +16,8 @@ namespace vandrel {
 
 namespace {
 
-constexpr std::array<const Command*, 4> commands{&infoCommand, &verifyCommand, &playRandomCommand, &traceCommand};
+constexpr std::array<const Command*, 5> commands{&infoCommand, &verifyCommand, &playRandomCommand, &traceCommand,
+                                                 &digestCommand};
 
 void printOverview() {
     fmt::print("Usage: vandrel-replay COMMAND [--help] ...\n\nCommands:\n");

@@ -6,6 +6,7 @@
 #include "replay/tool/commands.h"
 #include "replay/tool/headless_playback.h"
 #include "replay/tool/process_pool.h"
+#include "replay/tool/state_digest.h"
 #include "replay/unit/proof.h"
 #include "shell/frame_counter.h"
 #include "shell/switches.h"
@@ -20,14 +21,19 @@ std::string endText(PlaybackEnd end) {
 
 // Plays the whole file; throws at the first difference, and where the proof is not one of the whole round.
 PlaybackEnd playAndProve(const std::string& path, int& rate) {
+    DigestCheck digest(path);
     HeadlessPlayback playback(path);
     rate = gameOptions.updaterate;
-    while (playback.step()) {
+    bool runs = true;
+    while (runs) {
+        runs = playback.step();
+        digest.compare(playback.game());
     }
     if (playback.end() == PlaybackEnd::CutShort) {
         throw std::runtime_error("the replay breaks off without its end mark");
     }
     playback.requireAllPlayed();
+    digest.requireAllCompared();
     playback.finish();
     if (!playback.isVerified()) {
         throw std::runtime_error("there is no verification file: nothing was compared");
@@ -100,8 +106,9 @@ const Command verifyCommand{
     "verify", runVerify,
     "verify [-j N] FILE-or-DIR...      play and compare with the verification files\n\n"
     "Plays each replay with no screen as fast as it can and compares every position with the verification file\n"
-    "beside it. A replay fails at its first difference, where it breaks off, where something of either file is\n"
-    "left over, and where there is nothing to compare with.\n\n"
+    "beside it, and the whole state with the digest beside it, if there is one. A replay fails at its first\n"
+    "difference, where it breaks off, where something of either file is left over, and where there is nothing to\n"
+    "compare with.\n\n"
     "  -j N    N replays at once, each in a process of its own\n\n"
     "Exit status 0 only if all hold.\n"};
 
