@@ -6,6 +6,10 @@
 #include <cstdint>
 #include <memory>
 #include <sstream>
+#include <system_error>
+
+#include "shell/log.h"
+#include "shell/replace_file.h"
 
 namespace vandrel {
 namespace {
@@ -45,7 +49,12 @@ constexpr const char* accessibilitySection = "accessibility";
 
 void store(const char* section, const char* key, const std::string& text) {
     al_set_config_value(theConfig.get(), section, key, text.c_str());
-    al_save_config_file(configPath.c_str(), theConfig.get());
+    try {
+        replaceFile(configPath,
+                    [](const std::string& beside) { return al_save_config_file(beside.c_str(), theConfig.get()); });
+    } catch (const std::system_error& failure) {
+        logText(std::string(failure.what()) + "\n");
+    }
 }
 
 // The next integer of the stream; 0 when there is none, also when nothing is left at all.

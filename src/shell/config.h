@@ -27,8 +27,8 @@ bool getConfigBool(const char* section, const char* key, bool defaultValue);
 // key.
 RGB getConfigColour(const char* section, const char* key, RGB defaultValue);
 
-// Each stores the value and rewrites the whole file at once. A save that fails is ignored: the run goes on with the
-// value in memory.
+// Each stores the value and replaces the whole file at once. A save that fails leaves the file as it was and a line in
+// the log: the run goes on with the value in memory.
 void setConfigInt(const char* section, const char* key, int value);
 void setConfigColour(const char* section, const char* key, RGB value);
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -49,6 +50,33 @@ TEST_F(ConfigTest, AFileThatIsThereIsKeptAsItIs) {
     EXPECT_TRUE(getConfigBool("other", "autoRandomControls", false));
     EXPECT_FALSE(getConfigBool("lootbox", "lootboxesEnabled", true));
     EXPECT_EQ(getConfigInt("video", "width", 640), 640) << "no first-run keys in an old file";
+}
+
+// The file holds photos and cash: it is never cut short.
+TEST_F(ConfigTest, AFullDiskLeavesTheFileAsItWasAndIsLogged) {
+    const std::string text = "[lootbox]\ncash=17\n";
+    openWith(text);
+    std::filesystem::create_symlink("/dev/full", path + ".new");  // what is written beside it first
+    CapturedLog log;
+    setConfigInt("lootbox", "cash", 18);
+    EXPECT_EQ(fileText(path), text);
+    EXPECT_EQ(getConfigInt("lootbox", "cash", 0), 18) << "the run goes on with the value in memory";
+    EXPECT_EQ(log.text(), "0: cannot write " + path + ": No space left on device\n");
+    setConfigInt("lootbox", "cash", 19);
+    EXPECT_EQ(fileText(path), "[lootbox]\ncash=19\n") << "nothing is left in the way";
+}
+
+TEST_F(ConfigTest, ALinkAndThePermissionsOfTheFileStay) {
+    const std::string target = data.path + "/elsewhere.cfg";
+    writeFile(target, "[video]\nvsync=1\n");
+    std::filesystem::permissions(target, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    std::filesystem::create_symlink(target, path);
+    openConfig(path);
+    setConfigInt("video", "vsync", 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(path));
+    EXPECT_EQ(fileText(target), "[video]\nvsync=0\n");
+    EXPECT_EQ(std::filesystem::status(target).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
 }
 
 TEST_F(ConfigTest, OddValuesReadAsTheirFirstInteger) {
