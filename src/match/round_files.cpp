@@ -25,13 +25,13 @@ void openFile(File& file, const std::string& path, std::ios::openmode mode) {
 
 }  // namespace
 
-ReplayBeingPlayed::ReplayBeingPlayed(const std::string& name) : name_(name) {
+ReplayBeingPlayed::ReplayBeingPlayed(const std::string& name, std::size_t mostVerifyText) : name_(name) {
     logText("Loading replay: " + name_ + "\n");
     openFile(file_, name_, std::ios::in | std::ios::binary);
     playerSetups_ = loadReplayHeader(file_, version_);
     logPrintf("Replay version: %d\n", version_);
     if (verifyEnabled) {
-        verify_ = openVerifyInput(name_);
+        verify_ = readVerifyInput(name_, mostVerifyText);
     }
 }
 
@@ -41,7 +41,7 @@ PackagedReplayData ReplayBeingPlayed::data(bool record) {
     data.playback = true;
     data.version = version_;
     data.recording = record;
-    data.inputVerify = verify_;
+    data.inputVerify = verify_.text;
     data.filename = name_;
     return data;
 }

@@ -10,6 +10,7 @@
 #include "replay/unit/header.h"
 #include "replay/unit/packaged_replay_data.h"
 #include "replay/unit/round_writer.h"
+#include "replay/unit/verify_files.h"
 
 namespace vandrel {
 
@@ -17,11 +18,13 @@ namespace vandrel {
 // flags and the teams.
 class ReplayBeingPlayed {
   public:
-    // Throws what reading the header throws.
-    explicit ReplayBeingPlayed(const std::string& name);
+    // Throws what reading the header throws, and std::runtime_error for a verification text of more than
+    // `mostVerifyText` bytes.
+    explicit ReplayBeingPlayed(const std::string& name, std::size_t mostVerifyText = largestDecompressed);
 
     int version() const { return version_; }
     const std::vector<PlayerSetup>& playerSetups() const { return playerSetups_; }
+    const VerifyInput& verifyInput() const { return verify_; }
     // Ready for `Game`.
     PackagedReplayData data(bool record);
     // Closes the file. With `cameToItsEnd` requires that the verification text is used up.
@@ -32,7 +35,7 @@ class ReplayBeingPlayed {
     std::ifstream file_;
     int version_ = 0;
     std::vector<PlayerSetup> playerSetups_;
-    std::shared_ptr<std::istream> verify_;
+    VerifyInput verify_;
 };
 
 // A round being recorded, or, made without a name, one that writes nothing.

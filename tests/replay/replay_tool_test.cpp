@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <sstream>
 
@@ -111,6 +113,71 @@ TEST_F(ReplayTool, FailsWhatDoesNotHold) {
     EXPECT_THAT(run({"verify", folder_.path().string()}).output, HasSubstr("is a folder"));
 }
 
+TEST_F(ReplayTool, FailsWhatIsLeftOverInTheVerificationFile) {
+    record(path_);
+    const std::string packed = readFile(path_ + ".verifyZ");
+    const std::string text = gzipDecompress(packed);
+    struct Case {
+        std::string file;
+        std::string failure;
+    };
+    for (const Case& c :
+         {Case{packed + "x", ".verifyZ has 1 bytes behind its text"}, Case{packed + packed, " bytes behind its text"},
+          Case{packed.substr(0, packed.size() - 8), ".verifyZ is cut short"},
+          Case{gzipCompress(text + "1\n"), "the verification file has text behind END"},
+          Case{gzipCompress(std::string(100'000'000, '\n')), "size of output string will use more"}}) {
+        writeFile(path_ + ".verifyZ", c.file);
+        const Outcome outcome = run({"verify", path_});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(outcome.output, HasSubstr(c.failure));
+    }
+}
+
+TEST_F(ReplayTool, UsesTheWholePlainTextWhereThePackedOneIsEmptyOrBroken) {
+    record(path_);
+    const std::string packed = readFile(path_ + ".verifyZ");
+    const std::string text = gzipDecompress(packed);
+    for (const std::string& broken : {std::string(), packed.substr(0, 4), std::string("no gzip")}) {
+        writeFile(path_ + ".verifyZ", broken);
+        writeFile(path_ + ".verify", text);
+        const Outcome outcome = run({"verify", path_});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_THAT(outcome.output, HasSubstr("; " + path_ + ".verifyZ: "));
+        EXPECT_THAT(outcome.output, HasSubstr(path_ + ".verify is used instead\n"));
+        writeFile(path_ + ".verify", text.substr(0, text.size() - 4));
+        EXPECT_EQ(run({"verify", path_}).status, 1) << "a plain text without its last line is not whole";
+    }
+}
+
+// Bytes of files and names never reach the terminal as they are.
+TEST_F(ReplayTool, PrintsNeitherControlCharactersNorBrokenText) {
+    const std::string name = folder_.file("a\nb: ok\x1B[2J\xFF \u00E9\u0085.replay");
+    writeFile(name, "");
+    const std::string shown = "a\\x0ab: ok\\x1b[2J\\xff \u00E9\\xc2\\x85.replay: ";
+    for (const Words& words : {Words{"verify", name}, Words{"verify", "-j", "2", name}, Words{"info", name},
+                               Words{"trace", name}, Words{"digest", name}}) {
+        const Outcome outcome = run(words);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(outcome.output + outcome.errors, HasSubstr(shown));
+        EXPECT_THAT(outcome.output + outcome.errors, testing::Not(HasSubstr("iostream error")));
+    }
+    record(name);
+    EXPECT_THAT(run({"info", name}).output, HasSubstr("a\\u000ab: ok\\u001b[2J\\u00ff \u00E9\\u0085.replay\""));
+}
+
+TEST_F(ReplayTool, RefusesWhatItCouldOnlyWaitForAndTellsOfAFullOutput) {
+    ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+    for (const char* command : {"verify", "info", "trace", "digest"}) {
+        const Outcome outcome = run({command, folder_.path().string() + "/1.1.1.2.replay"});
+        EXPECT_EQ(outcome.status, 1) << command;
+        EXPECT_THAT(outcome.output + outcome.errors, HasSubstr(path_ + ": "));
+        EXPECT_THAT(outcome.output + outcome.errors, HasSubstr("is no regular file\n"));
+    }
+    const std::string full = folder_.file("full.replay");
+    std::filesystem::create_symlink("/dev/full", full);
+    EXPECT_THAT(record(full).errors, HasSubstr(full + ": cannot be written: No space left on device"));
+}
+
 TEST_F(ReplayTool, SaysOfALaterReleasesReplayThatItIsOne) {
     writeFile(path_, int32(replayVersion(9, 9, 9)));
     for (const char* command : {"info", "verify", "trace"}) {
@@ -165,7 +232,15 @@ TEST_F(ReplayTool, RefusesWordsThatMakeNoSenseInOneLine) {
         {{"play-random", "--powerups", "Bomb,Tea", "x"}, "there is no powerup 'Tea'"},
         {{"play-random", "--set", "speed", "x"}, "--set needs NAME=VALUE, not 'speed'"},
         {{"play-random", "--set", "tea=1", "x"}, "there is no option 'tea'"},
-        {{"play-random", "--rate", "0", "x"}, "--rate needs a number of at least 1"},
+        {{"play-random", "--set", "initialSpeed=128", "x"}, "initialSpeed takes a number from 1 to 3, not 128"},
+        {{"play-random", "--set", "frameMultiplier=0", "x"}, "frameMultiplier takes a number from 1 to 100, not 0"},
+        {{"play-random", "--set", "aiSearchDepth=-1", "x"}, "aiSearchDepth takes a number from 1 to 15, not -1"},
+        {{"play-random", "--set", "startAsSnake=2", "x"}, "startAsSnake takes a number from 0 to 1, not 2"},
+        {{"play-random", "--frames", "-1", "x"}, "--frames needs a number from 0 to "},
+        {{"play-random", "--set", "a\x1B[2J=1", "x"}, "there is no option 'a\\x1b[2J'"},
+        {{"digest"}, "digest needs a replay"},
+        {{"digest", "--fields", "x"}, "--fields needs --at UPDATE"},
+        {{"play-random", "--rate", "0", "x"}, "--rate needs a number from 1 to 1000000"},
         {{"trace"}, "trace needs a replay"},
         {{"trace", "a", "b"}, "unknown word 'b'"},
     };
@@ -176,7 +251,7 @@ TEST_F(ReplayTool, RefusesWordsThatMakeNoSenseInOneLine) {
         EXPECT_EQ(std::count(outcome.errors.begin(), outcome.errors.end(), '\n'), 1);
         EXPECT_EQ(outcome.output, "");
     }
-    for (const char* command : {"info", "verify", "play-random", "trace"}) {
+    for (const char* command : {"info", "verify", "play-random", "trace", "digest"}) {
         const Outcome outcome = run({command, "--help"});
         EXPECT_EQ(outcome.status, 0);
         EXPECT_TRUE(outcome.output.starts_with(std::string("Usage: vandrel-replay ") + command));

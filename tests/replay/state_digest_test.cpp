@@ -155,7 +155,7 @@ TEST_F(DigestFiles, CatchWhatPositionsDoNotShow) {
 TEST_F(DigestFiles, AreWrittenOnceAndHold) {
     takeGolden("1.1.1.2.replay");
     const std::string golden = readFile(digestPath(path_));
-    EXPECT_EQ(run({"digest", path_}).text, "vandrel-replay: " + digestPath(path_) + " is there already\n");
+    EXPECT_EQ(run({"digest", path_}).text, "vandrel-replay: " + path_ + ": its digest is there already\n");
     std::filesystem::remove(digestPath(path_));
     EXPECT_EQ(run({"digest", path_}).status, 0);
     EXPECT_EQ(gzipDecompress(readFile(digestPath(path_))), gzipDecompress(golden));
@@ -164,7 +164,6 @@ TEST_F(DigestFiles, AreWrittenOnceAndHold) {
     const std::string fields = run({"digest", "--fields", "--at", "45", path_}).text;
     EXPECT_THAT(fields, HasSubstr("\nplayers: player 1 0 cash = 0\n"));
     EXPECT_THAT(run({"digest", "--fields", "--at", "99999", path_}).text, HasSubstr("updates"));
-    EXPECT_EQ(run({"digest", "--fields", path_}).status, 2);
 }
 
 TEST_F(DigestFiles, FailWhereTheyDoNotFitTheRound) {

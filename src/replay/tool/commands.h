@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "replay/tool/printable.h"
+
 namespace vandrel {
 
 using Words = std::vector<std::string>;
@@ -33,7 +35,7 @@ extern const Command digestCommand;
 int runReplayTool(const Words& words);
 
 // The replays that the words name: files as they stand, folders as all "*.replay" files below them, by number and then
-// by name.
+// by name. A folder that cannot be read is named on standard error and passed over.
 std::vector<std::string> findReplays(const Words& words);
 
 // The value behind the option at `index`, which moves on to it. Throws UsageError if there is none.
@@ -42,7 +44,16 @@ int optionNumber(const Words& words, std::size_t& index);
 // A whole number; `name` says what it is for.
 int parseWholeNumber(const std::string& name, const std::string& text);
 
-// The text of a failure on one line, as errors are shown.
-std::string oneLine(const std::string& text);
+// Runs `work` on the file. A failure gets the path in front of its text, unless it is a `UsageError`.
+template <class Work>
+auto namingFile(const std::string& path, Work work) {
+    try {
+        return work();
+    } catch (const UsageError&) {
+        throw;
+    } catch (const std::exception& failure) {
+        throw std::runtime_error(printable(path) + ": " + failureText(failure));
+    }
+}
 
 }  // namespace vandrel

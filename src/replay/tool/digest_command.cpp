@@ -61,10 +61,10 @@ void listFields(const std::string& path, int at) {
 void writeDigest(const std::string& path) {
     const std::string target = digestPath(path);
     if (std::filesystem::exists(target)) {
-        throw std::runtime_error(fmt::format("{} is there already", target));
+        throw std::runtime_error("its digest is there already");
     }
     RoundDigest digest;
-    digest.replayChecksum = checksumOf(path);
+    digest.replayChecksum = checksumOf(requireRegularFile(path));
     HeadlessPlayback playback(path);
     bool runs = true;
     while (runs) {
@@ -80,17 +80,19 @@ void writeDigest(const std::string& path) {
     if (!file) {
         throw std::runtime_error(fmt::format("{} cannot be written", target));
     }
-    fmt::print("{}: {} updates\n", target, digest.updates.size());
+    fmt::print("{}: {} updates\n", printable(target), digest.updates.size());
 }
 
 int runDigest(const Words& words) {
     const Request request = readRequest(words);
     verifyEnabled = true;  // a round that plays differently has no digest
-    if (request.at.has_value()) {
-        listFields(request.path, *request.at);
-    } else {
-        writeDigest(request.path);
-    }
+    namingFile(request.path, [&] {
+        if (request.at.has_value()) {
+            listFields(request.path, *request.at);
+        } else {
+            writeDigest(request.path);
+        }
+    });
     return 0;
 }
 

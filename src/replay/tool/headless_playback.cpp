@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -23,10 +24,27 @@ namespace {
 
 constexpr int mostUpdatesBehindRecords = 20'000;  // more than the longest wait for a return
 
-// The path, if there is a file that can be opened. Says what the matter is in words that the streams do not have.
-const std::string& checkedPath(const std::string& path) {
-    if (std::filesystem::is_directory(path)) {
+// No more text than this belongs to a replay of that size: a record of two or three bytes makes one line of a player,
+// with hundreds of parts for the longest snakes. It keeps a forged file from eating the memory.
+std::size_t mostVerifyText(const std::string& path) {
+    constexpr std::size_t spare = 1'000'000;
+    constexpr std::size_t textPerByte = 2048;
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    return error ? 0 : std::min<std::uintmax_t>(largestDecompressed, spare + textPerByte * size);
+}
+
+}  // namespace
+
+const std::string& requireRegularFile(const std::string& path) {
+    std::error_code error;
+    const auto type = std::filesystem::status(path, error).type();
+    if (type == std::filesystem::file_type::directory) {
         throw std::runtime_error("is a folder");
+    }
+    // Opening a pipe would wait for a writer.
+    if (!error && type != std::filesystem::file_type::regular) {
+        throw std::runtime_error("is no regular file");
     }
     if (!std::ifstream(path).is_open()) {
         throw std::runtime_error("cannot be opened for reading");
@@ -34,9 +52,8 @@ const std::string& checkedPath(const std::string& path) {
     return path;
 }
 
-}  // namespace
-
-HeadlessPlayback::HeadlessPlayback(const std::string& path) : replay_(checkedPath(path)), data_(replay_.data(false)) {
+HeadlessPlayback::HeadlessPlayback(const std::string& path)
+    : replay_(requireRegularFile(path), mostVerifyText(path)), data_(replay_.data(false)) {
     const Square arenaSize{grid_squares_x, grid_squares_y};
     players.clear();
     makeReplayPlayers(replay_.playerSetups(), replay_.version(), {std::make_shared<NoControls>()});
@@ -96,7 +113,18 @@ void HeadlessPlayback::requireAllPlayed() {
 }
 
 void HeadlessPlayback::finish() {
-    replay_.finish(end_ == PlaybackEnd::RoundOver || end_ == PlaybackEnd::EndMark);
+    const bool cameToItsEnd = end_ == PlaybackEnd::RoundOver || end_ == PlaybackEnd::EndMark;
+    replay_.finish(cameToItsEnd);
+    const VerifyInput& verify = replay_.verifyInput();
+    if (!cameToItsEnd || verify.text == nullptr) {
+        return;
+    }
+    if (!(*verify.text >> std::ws).eof()) {
+        throw std::runtime_error("the verification file has text behind END");
+    }
+    if (!verify.flaw.empty()) {
+        throw std::runtime_error(verify.flaw);
+    }
 }
 
 long long HeadlessPlayback::position() const {

@@ -20,6 +20,10 @@ enum class PlaybackEnd {
     CutShort,   // the file breaks off
 };
 
+// Gives the path. Throws std::runtime_error in words that the streams do not have, unless it is a regular file that can
+// be opened.
+const std::string& requireRegularFile(const std::string& path);
+
 class HeadlessPlayback {
   public:
     // Opens the replay and sets its round up. Throws std::runtime_error for what is no file, and whatever a broken one
@@ -35,11 +39,13 @@ class HeadlessPlayback {
     // Throws std::runtime_error if the file holds records behind those that were played.
     void requireAllPlayed();
     // To be called behind the last step: closes the file and requires that the verification text, if there is one, is
-    // used up. A file that breaks off is let be.
+    // used up, with nothing behind its end. A replay that breaks off is let be.
     void finish();
 
     PlaybackEnd end() const { return end_; }
     bool isVerified() const { return data_.inputVerify != nullptr; }
+    // Names a verification file that was passed over; empty if none was.
+    const std::string& verifyNote() const { return replay_.verifyInput().note; }
     int version() const { return replay_.version(); }
     const Game& game() const { return *game_; }
     // Where the next record begins, in bytes from the start of the file.

@@ -10,26 +10,12 @@
 #include "match/options/name_tables.h"
 #include "players/player.h"
 #include "replay/tool/commands.h"
+#include "replay/tool/headless_playback.h"
 #include "replay/unit/header.h"
 
 namespace vandrel {
 
 namespace {
-
-std::string quoted(std::string_view text) {
-    std::string result = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\') {
-            result += '\\';
-            result += c;
-        } else if (static_cast<unsigned char>(c) < 0x20) {
-            result += fmt::format("\\u{:04x}", static_cast<unsigned>(c));
-        } else {
-            result += c;
-        }
-    }
-    return result + '"';
-}
 
 std::string colourText(const ALLEGRO_COLOR& colour) {
     const RGB rgb = toRGB(colour);
@@ -40,7 +26,7 @@ std::string optionsText(const OptionRecord& record) {
     std::vector<std::string> fields;
     for (const StoredOption& option : listStoredOptions(record)) {
         const std::string value = option.isFlag ? (option.value != 0 ? "true" : "false") : std::to_string(option.value);
-        fields.push_back(fmt::format("    {}: {}", quoted(option.name), value));
+        fields.push_back(fmt::format("    {}: {}", jsonQuoted(option.name), value));
     }
     return boost::join(fields, ",\n");
 }
@@ -73,7 +59,7 @@ std::string playersText(const std::vector<PlayerSetup>& setups) {
 }
 
 std::string describe(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
+    std::ifstream stream(requireRegularFile(path), std::ios::binary);
     stream.exceptions(std::ios::badbit | std::ios::failbit | std::ios::eofbit);
     int version = 0;
     const std::vector<PlayerSetup> setups = loadReplayHeader(stream, version);
@@ -82,7 +68,7 @@ std::string describe(const std::string& path) {
     return fmt::format(
         "{{\n  \"file\": {},\n  \"version\": {},\n  \"mode\": {},\n  \"options\": {{\n{}\n  }},\n"
         "  \"flagReach\": {},\n  \"teams\": {},\n  \"players\": {}\n}}",
-        quoted(path), quoted(versionText(version)), quoted(mode.longName), optionsText(record),
+        jsonQuoted(path), jsonQuoted(versionText(version)), jsonQuoted(mode.longName), optionsText(record),
         static_cast<int>(reaches.flag), teamsText(setups), playersText(setups));
 }
 
@@ -95,7 +81,7 @@ int runInfo(const Words& words) {
         try {
             texts.push_back(describe(path));
         } catch (const std::exception& failure) {
-            fmt::print(stderr, "vandrel-replay: {}: {}\n", path, oneLine(failure.what()));
+            fmt::print(stderr, "vandrel-replay: {}: {}\n", printable(path), failureText(failure));
             status = 1;
         }
     }

@@ -1,6 +1,9 @@
 #include "replay/tool/option_names.h"
 
+#include <fmt/format.h>
+
 #include <array>
+#include <stdexcept>
 #include <string_view>
 #include <variant>
 
@@ -13,73 +16,83 @@ namespace {
 using Field = std::variant<int GameOptions::*, bool GameOptions::*, std::optional<int> GameOptions::*,
                            std::optional<bool> GameOptions::*>;
 
+// The values that an option takes, those of its menu or of its field in files. A flag takes 0 and 1.
+struct Range {
+    int low = 0;
+    int high = 1;
+};
+
+constexpr int mostFrames = 1'000'000;
+constexpr int mostSquares = 119 * 67;  // of the largest arena
+
 struct NamedField {
     std::string_view name;
     Field field;
+    Range range{};
 };
 
 constexpr auto namedFields = std::to_array<NamedField>({
-    {"arenaSize", &GameOptions::arenaSize},
-    {"shrinkStyle", &GameOptions::shrinkStyle},
-    {"shrinkSpeed", &GameOptions::shrinkSpeed},
-    {"timeBeforeShrinking", &GameOptions::timeBeforeShrinking},
-    {"gridBlocks", &GameOptions::gridBlocks},
-    {"wallDensity", &GameOptions::wallDensity},
-    {"powerupDensity", &GameOptions::powerupDensity},
-    {"auctions", &GameOptions::auctions},
-    {"snakeNumber", &GameOptions::snakeNumber},
-    {"maxSnakes", &GameOptions::maxSnakes},
-    {"preparationTime", &GameOptions::preparationTime},
-    {"spawnInterval", &GameOptions::spawnInterval},
-    {"randomness", &GameOptions::randomness},
-    {"randomnessIncrease", &GameOptions::randomnessIncrease},
-    {"winsNeeded", &GameOptions::winsNeeded},
-    {"numPlayers", &GameOptions::numPlayers},
-    {"quickStartPlayers", &GameOptions::quickStartPlayers},
+    {"arenaSize", &GameOptions::arenaSize, {0, 13}},
+    {"shrinkStyle", &GameOptions::shrinkStyle, {0, 3}},
+    {"shrinkSpeed", &GameOptions::shrinkSpeed, {0, autoShrinkSpeed}},
+    {"timeBeforeShrinking", &GameOptions::timeBeforeShrinking, {0, autoTimeBeforeShrinking}},
+    {"gridBlocks", &GameOptions::gridBlocks, {0, 2}},
+    {"wallDensity", &GameOptions::wallDensity, {0, autoDensity}},
+    {"powerupDensity", &GameOptions::powerupDensity, {0, autoDensity}},
+    {"auctions", &GameOptions::auctions, {0, 3}},
+    {"snakeNumber", &GameOptions::snakeNumber, {0, 10}},
+    {"maxSnakes", &GameOptions::maxSnakes, {0, 10}},
+    {"preparationTime", &GameOptions::preparationTime, {0, 5}},
+    {"spawnInterval", &GameOptions::spawnInterval, {0, 5}},
+    {"randomness", &GameOptions::randomness, {0, 2}},
+    {"randomnessIncrease", &GameOptions::randomnessIncrease, {0, 2}},
+    {"winsNeeded", &GameOptions::winsNeeded, {3, 10}},
+    {"numPlayers", &GameOptions::numPlayers, {1, mostPlayers}},
+    {"quickStartPlayers", &GameOptions::quickStartPlayers, {0, mostPlayers - 1}},
     {"bombPowerupResetsBombType", &GameOptions::bombPowerupResetsBombType},
     {"shrinkingOn", &GameOptions::shrinkingOn},
-    {"initialSpeed", &GameOptions::initialSpeed},
-    {"speedCap", &GameOptions::speedCap},
-    {"snailSeconds", &GameOptions::snailSeconds},
+    {"initialSpeed", &GameOptions::initialSpeed, {1, 3}},
+    {"speedCap", &GameOptions::speedCap, {1, 31}},
+    {"snailSeconds", &GameOptions::snailSeconds, {0, 127}},
     {"remoteHoldToArm", &GameOptions::remoteHoldToArm},
     {"remoteExplosionDelay", &GameOptions::remoteExplosionDelay},
     {"rocketExplosionDelay", &GameOptions::rocketExplosionDelay},
     {"startAsSnake", &GameOptions::startAsSnake},
     {"startWithShield", &GameOptions::startWithShield},
-    {"respawnTime", &GameOptions::respawnTime},
-    {"frameMultiplier", &GameOptions::frameMultiplier},
-    {"updaterate", &GameOptions::updaterate},
+    {"respawnTime", &GameOptions::respawnTime, {1, 30}},
+    {"frameMultiplier", &GameOptions::frameMultiplier, {1, 100}},
+    {"updaterate", &GameOptions::updaterate, {1, highestUpdateRate}},
     {"everythingCTF", &GameOptions::everythingCTF},
     {"everythingBattleRoyale", &GameOptions::everythingBattleRoyale},
     {"everythingKotH", &GameOptions::everythingKotH},
     {"everythingSnakeHunter", &GameOptions::everythingSnakeHunter},
     {"everythingDeathmatch", &GameOptions::everythingDeathmatch},
-    {"playerKillPoints", &GameOptions::playerKillPoints},
-    {"snakeHurtPoints", &GameOptions::snakeHurtPoints},
-    {"snakeKillPoints", &GameOptions::snakeKillPoints},
-    {"flagCapturePoints", &GameOptions::flagCapturePoints},
+    {"playerKillPoints", &GameOptions::playerKillPoints, {0, 10}},
+    {"snakeHurtPoints", &GameOptions::snakeHurtPoints, {0, 10}},
+    {"snakeKillPoints", &GameOptions::snakeKillPoints, {0, 10}},
+    {"flagCapturePoints", &GameOptions::flagCapturePoints, {0, 50}},
     {"singleFlag", &GameOptions::singleFlag},
-    {"snakeSpeed", &GameOptions::snakeSpeed},
+    {"snakeSpeed", &GameOptions::snakeSpeed, {0, 10}},
     {"snakeHunterRespawn", &GameOptions::snakeHunterRespawn},
     {"minorStunEnabled", &GameOptions::minorStunEnabled},
-    {"snakeStartLength", &GameOptions::snakeStartLength},
-    {"snakeTargetLength", &GameOptions::snakeTargetLength},
-    {"majorStunTime", &GameOptions::majorStunTime},
-    {"minorStunTime", &GameOptions::minorStunTime},
-    {"snakeAggressiveness", &GameOptions::snakeAggressiveness},
-    {"aiSearchDepth", &GameOptions::aiSearchDepth},
-    {"arenaSizeResolved", &GameOptions::arenaSizeResolved},
-    {"shrinkSpeedFrames", &GameOptions::shrinkSpeedFrames},
-    {"timeBeforeShrinkingFrames", &GameOptions::timeBeforeShrinkingFrames},
-    {"shrinkStyleResolved", &GameOptions::shrinkStyleResolved},
+    {"snakeStartLength", &GameOptions::snakeStartLength, {4, 30}},
+    {"snakeTargetLength", &GameOptions::snakeTargetLength, {4, 30}},
+    {"majorStunTime", &GameOptions::majorStunTime, {0, 600}},
+    {"minorStunTime", &GameOptions::minorStunTime, {0, 600}},
+    {"snakeAggressiveness", &GameOptions::snakeAggressiveness, {-1, 2}},
+    {"aiSearchDepth", &GameOptions::aiSearchDepth, {1, 15}},
+    {"arenaSizeResolved", &GameOptions::arenaSizeResolved, {1, 13}},
+    {"shrinkSpeedFrames", &GameOptions::shrinkSpeedFrames, {1, 127}},
+    {"timeBeforeShrinkingFrames", &GameOptions::timeBeforeShrinkingFrames, {0, mostFrames}},
+    {"shrinkStyleResolved", &GameOptions::shrinkStyleResolved, {1, 3}},
     {"gridBlocksResolved", &GameOptions::gridBlocksResolved},
-    {"wallPercent", &GameOptions::wallPercent},
-    {"powerupPercent", &GameOptions::powerupPercent},
-    {"auctionInterval", &GameOptions::auctionInterval},
-    {"snakeSpawnFrames", &GameOptions::snakeSpawnFrames},
-    {"snakePreparationFrames", &GameOptions::snakePreparationFrames},
-    {"snakeCount", &GameOptions::snakeCount},
-    {"snakesAtOnce", &GameOptions::snakesAtOnce},
+    {"wallPercent", &GameOptions::wallPercent, {0, 100}},
+    {"powerupPercent", &GameOptions::powerupPercent, {0, 100}},
+    {"auctionInterval", &GameOptions::auctionInterval, {0, mostFrames}},
+    {"snakeSpawnFrames", &GameOptions::snakeSpawnFrames, {0, mostFrames}},
+    {"snakePreparationFrames", &GameOptions::snakePreparationFrames, {0, mostFrames}},
+    {"snakeCount", &GameOptions::snakeCount, {0, 30}},
+    {"snakesAtOnce", &GameOptions::snakesAtOnce, {1, 30}},
 });
 
 using WallField = std::variant<int RespawnWallOptions::*, bool RespawnWallOptions::*>;
@@ -87,14 +100,15 @@ using WallField = std::variant<int RespawnWallOptions::*, bool RespawnWallOption
 struct NamedWallField {
     std::string_view name;
     WallField field;
+    Range range{};
 };
 
 constexpr auto namedWallFields = std::to_array<NamedWallField>({
     {"respawnWallsResolved.enabled", &RespawnWallOptions::enabled},
-    {"respawnWallsResolved.interval", &RespawnWallOptions::interval},
-    {"respawnWallsResolved.startBelow", &RespawnWallOptions::startBelow},
-    {"respawnWallsResolved.stopAt", &RespawnWallOptions::stopAt},
-    {"respawnWallsResolved.minFreeSquares", &RespawnWallOptions::minFreeSquares},
+    {"respawnWallsResolved.interval", &RespawnWallOptions::interval, {1, mostFrames}},
+    {"respawnWallsResolved.startBelow", &RespawnWallOptions::startBelow, {0, mostSquares}},
+    {"respawnWallsResolved.stopAt", &RespawnWallOptions::stopAt, {0, mostSquares}},
+    {"respawnWallsResolved.minFreeSquares", &RespawnWallOptions::minFreeSquares, {0, mostSquares}},
 });
 
 constexpr std::string_view disabledPrefix = "powerupDisabled.";
@@ -112,10 +126,18 @@ void assignValue(std::optional<bool>& field, int value) {
     field = value != 0;
 }
 
+void requireInRange(const std::string& name, int value, const Range& range) {
+    if (value < range.low || value > range.high) {
+        throw std::out_of_range(
+            fmt::format("{} takes a number from {} to {}, not {}", name, range.low, range.high, value));
+    }
+}
+
 template <class Table, class Record>
 bool setIn(const Table& table, Record& record, const std::string& name, int value) {
     for (const auto& entry : table) {
         if (entry.name == name) {
+            requireInRange(name, value, entry.range);
             std::visit([&](auto member) { assignValue(record.*member, value); }, entry.field);
             return true;
         }
@@ -126,6 +148,7 @@ bool setIn(const Table& table, Record& record, const std::string& name, int valu
 bool setDisabled(GameOptions& options, const std::string& name, int value) {
     for (std::size_t i = 0; i < bonusNames.size(); ++i) {
         if (name == std::string(disabledPrefix) + std::string(bonusNames[i].internalName)) {
+            requireInRange(name, value, {});
             options.powerupDisabled[i] = value != 0;
             return true;
         }

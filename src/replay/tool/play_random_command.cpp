@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <boost/algorithm/string.hpp>
+#include <cerrno>
+#include <ios>
+#include <system_error>
 
 #include "match/options/game_options.h"
 #include "match/options/name_tables.h"
@@ -17,6 +20,7 @@ namespace vandrel {
 namespace {
 
 constexpr int defaultFrames = 3600;
+constexpr int mostFrames = 10'000'000;
 
 struct Request {
     std::string path;
@@ -47,11 +51,17 @@ GameMode findMode(const std::string& name) {
 }
 
 void setRate(int rate) {
-    if (rate < 1 || rate > highestUpdateRate) {
-        throw UsageError(fmt::format("--rate needs a number of at least 1 and at most {}", highestUpdateRate));
-    }
     gameOptions.updaterate = rate;
     gameOptions.frameMultiplier = frameMultiplierOf(rate);
+}
+
+int numberInRange(const Words& words, std::size_t& i, int low, int high) {
+    const std::string& name = words[i];
+    const int number = optionNumber(words, i);
+    if (number < low || number > high) {
+        throw UsageError(fmt::format("{} needs a number from {} to {}", name, low, high));
+    }
+    return number;
 }
 
 // Leaves only the named powerups to be found.
@@ -73,8 +83,12 @@ void addSetting(Request& request, const std::string& word) {
     }
     const std::string name = word.substr(0, equals);
     const int value = parseWholeNumber(name, word.substr(equals + 1));
-    if (!setOptionByName(gameOptions, name, value)) {
-        throw UsageError(fmt::format("there is no option '{}'; there are {}", name, listOptionNames()));
+    try {
+        if (!setOptionByName(gameOptions, name, value)) {
+            throw UsageError(fmt::format("there is no option '{}'; there are {}", name, listOptionNames()));
+        }
+    } catch (const std::out_of_range& failure) {
+        throw UsageError(failure.what());
     }
     request.settings.emplace_back(name, value);
 }
@@ -84,18 +98,18 @@ bool readOption(Request& request, const Words& words, std::size_t& i) {
     if (word == "--mode") {
         gameOptions.gameMode = findMode(optionValue(words, i));
     } else if (word == "--players") {
-        gameOptions.numPlayers = optionNumber(words, i);
+        gameOptions.numPlayers = numberInRange(words, i, 1, mostPlayers);
     } else if (word == "--arena") {
         gameOptions.arenaSize =
             findName(arenaSizes, "arena", optionValue(words, i), [](const ArenaSize& size) { return size.name; });
     } else if (word == "--seed") {
         request.seed = optionNumber(words, i);
     } else if (word == "--frames") {
-        request.frames = optionNumber(words, i);
+        request.frames = numberInRange(words, i, 0, mostFrames);
     } else if (word == "--bombs-every") {
-        request.bombsEvery = optionNumber(words, i);
+        request.bombsEvery = numberInRange(words, i, 0, mostFrames);
     } else if (word == "--rate") {
-        setRate(optionNumber(words, i));
+        setRate(numberInRange(words, i, 1, highestUpdateRate));
     } else if (word == "--powerups") {
         keepPowerups(optionValue(words, i));
     } else if (word == "--set") {
@@ -120,15 +134,11 @@ Request readRequest(const Words& words) {
     if (request.path.empty()) {
         throw UsageError("play-random needs a file to write");
     }
-    if (gameOptions.numPlayers < 1 || gameOptions.numPlayers > mostPlayers) {
-        throw UsageError(fmt::format("--players needs a number from 1 to {}", mostPlayers));
-    }
     return request;
 }
 
-int runPlayRandom(const Words& words) {
-    const Request request = readRequest(words);
-    verifyEnabled = true;
+// Gives whether the round came to its own end.
+bool recordRound(const Request& request) {
     RandomRoundSettings settings;
     settings.path = request.path;
     settings.bombsEvery = request.bombsEvery;
@@ -145,7 +155,22 @@ int runPlayRandom(const Words& words) {
         over = !round.step();
     }
     round.finish();
-    fmt::print("{}: {} frames, {}\n", request.path, static_cast<int>(frameCounter), over ? "round over" : "stopped");
+    return over;
+}
+
+int runPlayRandom(const Words& words) {
+    const Request request = readRequest(words);
+    verifyEnabled = true;
+    const bool over = namingFile(request.path, [&] {
+        errno = 0;
+        try {
+            return recordRound(request);
+        } catch (const std::ios_base::failure&) {
+            throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), "cannot be written");
+        }
+    });
+    fmt::print("{}: {} frames, {}\n", printable(request.path), static_cast<int>(frameCounter),
+               over ? "round over" : "stopped");
     return 0;
 }
 

@@ -11,6 +11,8 @@
 #include <sstream>
 #include <system_error>
 
+#include "replay/tool/printable.h"
+
 namespace vandrel {
 
 namespace {
@@ -44,7 +46,7 @@ JobResult receiveResult(const Worker& worker) {
     std::istringstream stream(text);
     JobResult result;
     if (!(stream >> result.good >> result.frames >> result.records) || stream.get() != ' ') {
-        return {false, 0, 0, fmt::format("{}: FAILED: its process died", worker.path)};
+        return {false, 0, 0, fmt::format("{}: FAILED: its process died", printable(worker.path))};
     }
     std::getline(stream, result.line);
     return result;
@@ -52,23 +54,31 @@ JobResult receiveResult(const Worker& worker) {
 
 class Pool {
   public:
-    void start(const std::string& path, const std::function<JobResult(const std::string&)>& job) {
+    // False where the system has no room for one more; then one has to finish first. Throws std::system_error where
+    // none runs that could.
+    bool start(const std::string& path, const std::function<JobResult(const std::string&)>& job) {
         std::array<int, 2> ends{};
         if (pipe(ends.data()) != 0) {
-            throw std::system_error(errno, std::generic_category(), "pipe");
+            return noRoom("pipe");
         }
         std::fflush(stdout);
         const pid_t process = fork();
         if (process < 0) {
-            throw std::system_error(errno, std::generic_category(), "fork");
+            close(ends[0]);
+            close(ends[1]);
+            return noRoom("fork");
         }
         if (process == 0) {
             close(ends[0]);
+            for (const auto& [_, worker] : workers_) {
+                close(worker.pipe);  // it needs all files that it may open
+            }
             sendResult(ends[1], job(path));
             _exit(0);
         }
         close(ends[1]);
         workers_[process] = {ends[0], path};
+        return true;
     }
 
     // A line is shorter than a pipe holds, so a worker never waits for its reader.
@@ -90,6 +100,13 @@ class Pool {
     std::size_t running() const { return workers_.size(); }
 
   private:
+    bool noRoom(const char* call) const {
+        if (workers_.empty()) {
+            throw std::system_error(errno, std::generic_category(), call);
+        }
+        return false;
+    }
+
     std::map<pid_t, Worker> workers_;
 };
 
@@ -108,7 +125,9 @@ void runJobs(const std::vector<std::string>& paths, int atOnce, const std::funct
         if (pool.running() == static_cast<std::size_t>(atOnce)) {
             report(pool.finishOne());
         }
-        pool.start(path, job);
+        while (!pool.start(path, job)) {
+            report(pool.finishOne());
+        }
     }
     while (pool.running() > 0) {
         report(pool.finishOne());

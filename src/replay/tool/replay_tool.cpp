@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <boost/algorithm/string.hpp>
+#include <cerrno>
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <system_error>
 
 #include "replay/tool/commands.h"
 #include "shell/log.h"
@@ -56,18 +57,38 @@ bool comesBefore(const std::filesystem::path& a, const std::filesystem::path& b)
     return key(a) < key(b);
 }
 
+void collectReplays(const std::filesystem::path& folder, std::vector<std::filesystem::path>& found) {
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code unknown;
+        if (entry->path().extension() == ".replay") {
+            found.push_back(entry->path());
+        } else if (entry->is_directory(unknown) && !entry->is_symlink(unknown)) {
+            collectReplays(entry->path(), found);
+        }
+    }
+    if (error) {
+        fmt::print(stderr, "vandrel-replay: {}: {}\n", printable(folder.string()), error.message());
+    }
+}
+
 }  // namespace
 
 int runReplayTool(const Words& words) {
     setDebugOutput(nullptr);
     fillTeamPalettes();
     try {
-        return run(words);
+        const int status = run(words);
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+            throw std::system_error(errno, std::generic_category(), "standard output cannot be written");
+        }
+        return status;
     } catch (const UsageError& failure) {
-        fmt::print(stderr, "vandrel-replay: {}\n", failure.what());
+        fmt::print(stderr, "vandrel-replay: {}\n", printable(failure.what()));
         return 2;
     } catch (const std::exception& failure) {
-        fmt::print(stderr, "vandrel-replay: {}\n", oneLine(failure.what()));
+        fmt::print(stderr, "vandrel-replay: {}\n", failureText(failure));
         return 1;
     }
 }
@@ -80,11 +101,7 @@ std::vector<std::string> findReplays(const Words& words) {
             continue;
         }
         std::vector<std::filesystem::path> found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(word)) {
-            if (entry.path().extension() == ".replay") {
-                found.push_back(entry.path());
-            }
-        }
+        collectReplays(word, found);
         std::sort(found.begin(), found.end(), comesBefore);
         paths.insert(paths.end(), found.begin(), found.end());
     }
@@ -113,10 +130,6 @@ int parseWholeNumber(const std::string& name, const std::string& text) {
 int optionNumber(const Words& words, std::size_t& index) {
     const std::string& name = words[index];
     return parseWholeNumber(name, optionValue(words, index));
-}
-
-std::string oneLine(const std::string& text) {
-    return boost::replace_all_copy(boost::trim_right_copy(text), "\n", "; ");
 }
 
 }  // namespace vandrel

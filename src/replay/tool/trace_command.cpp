@@ -97,9 +97,8 @@ Request readRequest(const Words& words) {
     return request;
 }
 
-int runTrace(const Words& words) {
-    const Request request = readRequest(words);
-    std::ifstream file(request.path, std::ios::binary);
+void traceRound(const Request& request) {
+    std::ifstream file(requireRegularFile(request.path), std::ios::binary);
     const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
     HeadlessPlayback playback(request.path);
     bool runs = true;
@@ -120,6 +119,11 @@ int runTrace(const Words& words) {
         printBombs();
         printFlames(playback.game());
     }
+}
+
+int runTrace(const Words& words) {
+    const Request request = readRequest(words);
+    namingFile(request.path, [&] { traceRound(request); });
     return 0;
 }
 

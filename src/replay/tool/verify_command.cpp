@@ -19,11 +19,17 @@ std::string endText(PlaybackEnd end) {
     return end == PlaybackEnd::RoundOver ? "round over" : "end mark";
 }
 
+struct ProvedRound {
+    PlaybackEnd end;
+    int rate;          // updates a second
+    std::string note;  // names a verification file that was passed over; empty if none was
+};
+
 // Plays the whole file; throws at the first difference, and where the proof is not one of the whole round.
-PlaybackEnd playAndProve(const std::string& path, int& rate) {
+ProvedRound playAndProve(const std::string& path) {
     DigestCheck digest(path);
     HeadlessPlayback playback(path);
-    rate = gameOptions.updaterate;
+    const int rate = gameOptions.updaterate;
     bool runs = true;
     while (runs) {
         runs = playback.step();
@@ -41,15 +47,15 @@ PlaybackEnd playAndProve(const std::string& path, int& rate) {
     if (proof.positions == 0) {
         throw std::runtime_error("nothing was compared");
     }
-    return playback.end();
+    return {playback.end(), rate, playback.verifyNote()};
 }
 
-std::string failureText(const std::string& path, const std::exception& failure) {
+std::string failureLine(const std::string& path, const std::exception& failure) {
     const std::string difference =
         proof.player == -1 ? ""
                            : fmt::format(", player {}: file {}, played {}", proof.player, proof.stored, proof.played);
-    return fmt::format("{}: FAILED at frame {}{}: {}", path, static_cast<int>(frameCounter), difference,
-                       oneLine(failure.what()));
+    return fmt::format("{}: FAILED at frame {}{}: {}", printable(path), static_cast<int>(frameCounter), difference,
+                       failureText(failure));
 }
 
 JobResult verifyOne(const std::string& path) {
@@ -57,16 +63,16 @@ JobResult verifyOne(const std::string& path) {
     frameCounter = 0;
     const auto start = std::chrono::steady_clock::now();
     try {
-        int rate = 1;
-        const PlaybackEnd end = playAndProve(path, rate);
+        const ProvedRound round = playAndProve(path);
         const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-        const double realTime = static_cast<double>(static_cast<int>(frameCounter)) / rate;
+        const double realTime = static_cast<double>(static_cast<int>(frameCounter)) / round.rate;
+        const std::string note = round.note.empty() ? "" : "; " + printable(round.note);
         return {true, frameCounter, proof.positions,
-                fmt::format("{}: ok, {} frames, {} records, {} captures, {}, {:.0f} times real time", path,
-                            static_cast<int>(frameCounter), proof.positions, proof.captures, endText(end),
-                            realTime / seconds.count())};
+                fmt::format("{}: ok, {} frames, {} records, {} captures, {}, {:.0f} times real time{}", printable(path),
+                            static_cast<int>(frameCounter), proof.positions, proof.captures, endText(round.end),
+                            realTime / seconds.count(), note)};
     } catch (const std::exception& failure) {
-        return {false, frameCounter, proof.positions, failureText(path, failure)};
+        return {false, frameCounter, proof.positions, failureLine(path, failure)};
     }
 }
 

@@ -61,7 +61,7 @@ std::string gzipCompress(std::string_view bytes) {
     return output;
 }
 
-std::string gzipDecompress(std::string_view bytes, std::size_t limit) {
+GzipContents gzipUnpack(std::string_view bytes, std::size_t limit) {
     if (bytes.size() > limit || bytes.size() * 2 > limit) {
         throw std::runtime_error(inputTooLarge);
     }
@@ -71,23 +71,26 @@ std::string gzipDecompress(std::string_view bytes, std::size_t limit) {
     }
     const std::unique_ptr<z_stream, int (*)(z_stream*)> end(&stream, inflateEnd);
     setInput(stream, bytes);
-    std::string output;
+    GzipContents contents;
     do {
-        if (output.size() + bytes.size() * 2 > limit) {
+        if (contents.bytes.size() + bytes.size() * 2 > limit) {
             throw std::runtime_error(outputTooLarge);
         }
-        output.resize(output.size() + bytes.size() * 2);
-        setOutput(stream, output);
+        contents.bytes.resize(contents.bytes.size() + bytes.size() * 2);
+        setOutput(stream, contents.bytes);
         const int result = inflate(&stream, Z_FINISH);
         if (result != Z_OK && result != Z_STREAM_END && result != Z_BUF_ERROR) {
             throw std::runtime_error(messageOf(stream, result));
         }
-        if (result == Z_STREAM_END) {
-            break;
-        }
-    } while (stream.avail_out == 0 && !bytes.empty());
-    output.resize(stream.total_out);
-    return output;
+        contents.whole = result == Z_STREAM_END;
+    } while (!contents.whole && stream.avail_out == 0 && !bytes.empty());
+    contents.bytes.resize(stream.total_out);
+    contents.left = stream.avail_in;
+    return contents;
+}
+
+std::string gzipDecompress(std::string_view bytes, std::size_t limit) {
+    return gzipUnpack(bytes, limit).bytes;
 }
 
 }  // namespace vandrel
