@@ -40,6 +40,16 @@ const BitmapWrapper& pageOf(const AtlasPlace& place) {
     return *pages[static_cast<unsigned>(place.page)];
 }
 
+// Clears the place and the border round it, in which pixels of a larger picture may be left.
+void clearPlace(const BitmapWrapper& page, const AtlasPlace& place) {
+    setTarget(page);
+    const BatchPause pause;
+    al_set_clipping_rectangle(place.x - atlasBorder, place.y - atlasBorder, place.width + 2 * atlasBorder,
+                              place.height + 2 * atlasBorder);
+    al_clear_to_color(transparent);
+    al_reset_clipping_rectangle();
+}
+
 // Takes the place of what is there, transparency included.
 void replacePixels(ALLEGRO_BITMAP* source, const BitmapWrapper& target, int x, int y) {
     setTarget(target);
@@ -67,6 +77,7 @@ ALLEGRO_BITMAP* copyIntoAtlas(ALLEGRO_BITMAP* source) {
         return nullptr;
     }
     const BitmapWrapper& page = pageOf(*place);
+    clearPlace(page, *place);
     replacePixels(source, page, place->x, place->y);
     ALLEGRO_BITMAP* part = al_create_sub_bitmap(page.bitmap, place->x, place->y, place->width, place->height);
     atlas().places.emplace(part, *place);

@@ -14,6 +14,16 @@ namespace fs = std::filesystem;
 
 constexpr std::array<const char*, 5> imageExtensions{".tga", ".bmp", ".png", ".jpg", ".jpeg"};
 
+// The entries of a directory; those that could be read, where an error ends the walk.
+std::vector<fs::directory_entry> entriesOf(const fs::path& directory) {
+    std::vector<fs::directory_entry> entries;
+    std::error_code error;
+    for (fs::directory_iterator entry(directory, error), end; !error && entry != end; entry.increment(error)) {
+        entries.push_back(*entry);
+    }
+    return entries;
+}
+
 bool isVisitedDirectory(const fs::directory_entry& entry) {
     std::error_code error;
     return entry.is_directory(error) && !entry.is_symlink(error) && entry.path().filename().native().front() != '.';
@@ -21,8 +31,7 @@ bool isVisitedDirectory(const fs::directory_entry& entry) {
 
 std::vector<fs::path> directoriesBelow(const fs::path& root) {
     std::vector<fs::path> found;
-    std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(root, error)) {
+    for (const fs::directory_entry& entry : entriesOf(root)) {
         if (!isVisitedDirectory(entry)) {
             continue;
         }
@@ -45,8 +54,7 @@ ImageIndex::ImageIndex(const fs::path& root) {
 }
 
 void ImageIndex::addDirectory(const fs::path& directory, std::size_t number) {
-    std::error_code error;
-    for (const fs::directory_entry& file : fs::directory_iterator(directory, error)) {
+    for (const fs::directory_entry& file : entriesOf(directory)) {
         const std::string extension = file.path().extension().string();
         const auto found = std::find(imageExtensions.begin(), imageExtensions.end(), extension);
         if (found == imageExtensions.end()) {

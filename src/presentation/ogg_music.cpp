@@ -78,6 +78,7 @@ OggMusic::OggMusic(const std::string& path, ALLEGRO_MIXER* mixer) {
     const std::lock_guard lock(streamMutex);
     ALLEGRO_AUDIO_STREAM* opened = al_load_audio_stream(path.c_str(), streamBuffers, samplesPerBuffer);
     if (opened == nullptr) {
+        logText("Could not play " + path + "\n");
         throw Failure();
     }
     stream.reset(opened, destroyStream);
@@ -101,11 +102,11 @@ void OggMusic::setVolume(int volume) {
 }
 
 void OggMusic::endFade() {
-    stopFade.store(true, std::memory_order_relaxed);
     if (fadeThread.joinable()) {
+        stopFade.store(true, std::memory_order_relaxed);
         fadeThread.join();
+        stopFade.store(false, std::memory_order_relaxed);
     }
-    stopFade.store(false, std::memory_order_relaxed);
 }
 
 void OggMusic::fadeTo(float seconds, int volume) {

@@ -1,6 +1,10 @@
 #include "presentation/plain_shader.h"
 
+#include <stdexcept>
+#include <string>
+
 #include "presentation/shader_building.h"
+#include "shell/log.h"
 
 namespace vandrel {
 
@@ -11,7 +15,11 @@ ALLEGRO_SHADER* shader = nullptr;
 }  // namespace
 
 void createPlainShader() {
-    shader = buildShader("shaders/pixel_plain.glsl");
+    try {
+        shader = buildShader("shaders/pixel_plain.glsl");
+    } catch (const std::runtime_error& failure) {
+        logText(std::string("Drawing without the plain shader, which is slower: ") + failure.what() + "\n");
+    }
 }
 
 void destroyPlainShader() {

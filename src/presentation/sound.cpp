@@ -89,7 +89,8 @@ void startSample(SampleIds id, int volume, int pan, int speed) {
     const std::lock_guard lock(sampleMutex);
     SampleInstance instance(al_create_sample_instance(checkedAt(samples, static_cast<int>(id))));
     if (instance == nullptr) {
-        throw std::runtime_error("al_create_sample_instance failed");
+        logText("al_create_sample_instance failed: a sample is not heard\n");
+        return;
     }
     al_set_sample_instance_speed(instance.get(), static_cast<float>(speed) / normalSampleSpeed);
     al_set_sample_instance_gain(instance.get(), static_cast<float>(volume) / fullVolume);

@@ -99,9 +99,17 @@ TEST_F(DrawingLayer, ComposedPicturesKeepApart) {
     EXPECT_EQ(pixelAt(*first, 0, 0), red);
     EXPECT_EQ(pixelAt(*second, 19, 19), blue);
     first.reset();
-    const auto third = composePicture(20, 20, [](const BitmapWrapper&) {});
+    auto third = composePicture(20, 20, [](const BitmapWrapper&) {});
     EXPECT_TRUE(isTransparentAt(*third, 10, 10)) << "nothing is left of what lay there";
+    third = plain(red);
+    third.reset();
     EXPECT_EQ(pixelAt(*second, 0, 0), blue);
+    const auto smaller = composePicture(9, 9, [](const BitmapWrapper&) {});
+    ALLEGRO_BITMAP* const page = al_get_parent_bitmap(smaller->bitmap);
+    ASSERT_NE(page, nullptr);
+    const ALLEGRO_COLOR border =
+        al_get_pixel(page, al_get_bitmap_x(smaller->bitmap) + 9, al_get_bitmap_y(smaller->bitmap) + 4);
+    EXPECT_EQ(border.a, 0.0f) << "nothing is left of a larger one in the border";
     const auto larger = composePicture(40, 30, [](const BitmapWrapper&) {});
     EXPECT_TRUE(isTransparentAt(*larger, 5, 5)) << "nothing is left of a smaller one";
     EXPECT_TRUE(isTransparentAt(*larger, 39, 29));
