@@ -1,5 +1,7 @@
 #include "frontend/play_replays.h"
 
+#include <fmt/format.h>
+
 #include "frontend/menu_stack.h"
 #include "match/play_the_game.h"
 #include "replay/unit/replay_names.h"
@@ -19,7 +21,11 @@ bool playReplay(const std::string& path, ReplayTestOptions testOptions, std::sha
 void testAllReplays(std::shared_ptr<Music>& music, const ReplayPlayer& play) {
     theProfiler.start("testAllReplays");
     for (const ReplayInfo& info : getAllReplays(true)) {
-        if (info.errors.empty() && play(info.path, {.fastForward = true, .skipRoundEnd = true}, music)) {
+        if (!info.errors.empty()) {
+            logText(fmt::format("Test all replays: {} is passed by: {}\n", info.path, info.errors.front()));
+            continue;
+        }
+        if (play(info.path, {.fastForward = true, .skipRoundEnd = true}, music)) {
             break;
         }
     }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <sstream>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -38,7 +39,11 @@ void askAndDelete(const std::string& path, CmdButtonAction& row) {
         return;
     }
     for (const std::string& file : {path, plainVerifyPath(path), compressedVerifyPath(path)}) {
-        std::filesystem::remove(file);
+        std::error_code error;
+        std::filesystem::remove(file, error);
+        if (error) {
+            throw std::filesystem::filesystem_error("remove", file, error);
+        }
     }
     row.setText("DELETED");
     row.onPress = {};

@@ -148,7 +148,7 @@ Match::RoundResult Match::playRound() {
     if (!isPlayback()) {
         automaticOptions();
     }
-    RoundBeingRecorded recorded(record_ && !isPlayback() ? newReplayName() : std::string());
+    RoundBeingRecorded recorded(record_ && !isPlayback() ? claimReplayName() : std::string());
     const PackagedReplayData data = isPlayback() ? replay_->data(record_) : recorded.data();
     Game game(data);
     if (!firstRound_ && !isPlayback() && gameOptions.randomnessIncrease != 0 && gameOptions.randomness < 2) {

@@ -63,6 +63,17 @@ class ReplayBrowser : public ScreenStage {
         return path.string();
     }
 
+    // What a round leaves that never began: a header, and nothing behind it.
+    void putWithoutGrid(const std::string& name, int age) {
+        put(name, age, 10);
+        const auto time = fs::last_write_time(folder_ / name);
+        fs::resize_file(folder_ / name, 400);
+        for (const char* suffix : {".verify", ".verifyZ"}) {
+            fs::remove(folder_ / (name + suffix));
+        }
+        fs::last_write_time(folder_ / name, time);
+    }
+
     std::shared_ptr<VandrelMenu> open() {
         return replayMenu(context_, [this](const std::string& path, ReplayTestOptions options, auto& music) {
             EXPECT_EQ(&music, &context_.music);
@@ -89,6 +100,7 @@ TEST_F(ReplayBrowser, ListsWhatThereIsNewestFirstAndSaysWhatItIs) {
     put("7.1.1.2.replay", 0, 14);
     put("kept/12.replay", 424, 10);
     put("8.1.1.2.replay", 60);
+    putWithoutGrid("6.1.1.2.replay", 120);
     put("notes.txt", 0);
     fs::create_directory(folder_ / "9.1.1.2.replay");
     const auto kilobytes = [&](const std::string& name) {
@@ -97,7 +109,8 @@ TEST_F(ReplayBrowser, ListsWhatThereIsNewestFirstAndSaysWhatItIs) {
     };
     EXPECT_THAT(textsOf(*open()),
                 ElementsAre("7 - 2026/11/5 07:04 - CTF - 8 players - 1.1.2 - " + kilobytes("7.1.1.2.replay"),
-                            "8 - Error - select for details - 0kB", HasSubstr("12 - 2026/11/5 00:00 - "), "Back"));
+                            "8 - Error - select for details - 0kB", "6 - Error - select for details - 0kB",
+                            HasSubstr("12 - 2026/11/5 00:00 - "), "Back"));
     showReplayTestOptions = true;
     const auto menu = open();
     EXPECT_EQ(menu->entries().front()->text(), "Test all replays");
@@ -160,11 +173,22 @@ TEST_F(ReplayBrowser, DeletesARoundWithAllThatBelongsToItOnceThatIsConfirmed) {
     EXPECT_FALSE(fs::exists(folder_ / "3.1.1.2.replay")) << "one with errors and without companions";
 }
 
+TEST_F(ReplayBrowser, SaysThatItCouldNotRemoveAFile) {
+    const std::string path = put("1.1.1.2.replay", 0, 14);
+    fs::remove(path + ".verify");
+    fs::create_directories(path + ".verify/in the way");
+    answerWith(ALLEGRO_KEY_Y);
+    EXPECT_THAT([&] { open()->entries()[0]->deleteKey(); },
+                testing::ThrowsMessage<fs::filesystem_error>(
+                    HasSubstr("error: remove: Directory not empty [" + path + ".verify]")));
+}
+
 TEST_F(ReplayBrowser, TestsAllThatCanBePlayedUntilOneIsQuit) {
     put("1.1.1.2.replay", 3, 14);
     put("2.1.1.2.replay", 2);
     put("3.1.1.2.replay", 1, 10);
     put("4.1.1.2.replay", 4, 11);
+    putWithoutGrid("5.1.1.2.replay", 5);
     showReplayTestOptions = true;
     open()->entries()[0]->press();
     EXPECT_THAT(played_, ElementsAre("3.1.1.2.replay fast without end", "1.1.1.2.replay fast without end",
@@ -172,6 +196,7 @@ TEST_F(ReplayBrowser, TestsAllThatCanBePlayedUntilOneIsQuit) {
     const testing::Matcher<std::string> saysHowLong =
         testing::ContainsRegex(": Test all replays: [0-9]+\\.[0-9]{6} seconds\n");
     EXPECT_THAT(log_.text(), saysHowLong);
+    EXPECT_THAT(log_.text(), HasSubstr("5.1.1.2.replay is passed by: The replay ends before its round begins\n"));
     played_.clear();
     quitAt_ = 2;
     const test::CapturedLog logOfTheSecond;

@@ -134,6 +134,15 @@ TEST_F(ReplayNames, countOnFromTheHighest) {
     EXPECT_THROW(newReplayName(), std::invalid_argument);
 }
 
+// Two games at once, or a folder of which the list does not tell.
+TEST_F(ReplayNames, areClaimedOnceEvenIfTheListDoesNotShowWhoHasThem) {
+    std::filesystem::create_symlink("nowhere", replay("0.1.1.2.replay"));
+    EXPECT_EQ(newReplayName(), replay("0.1.1.2.replay")) << "a dangling link is no replay";
+    EXPECT_EQ(claimReplayName(), replay("1.1.1.2.replay"));
+    EXPECT_EQ(claimReplayName(), replay("2.1.1.2.replay"));
+    EXPECT_FALSE(std::filesystem::exists(replays_ / "nowhere"));
+}
+
 TEST_F(ReplayNames, listNewestFirstWithSizeAndHeaderOrError) {
     const std::string golden = VANDREL_SOURCE_DIR "/tests/replays/14.1.1.2.replay";
     writeFile(replay("1.1.1.2.replay"), readFile(golden));

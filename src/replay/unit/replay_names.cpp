@@ -1,6 +1,8 @@
 #include "replay/unit/replay_names.h"
 
+#include <fcntl.h>
 #include <fmt/format.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <boost/algorithm/string.hpp>
@@ -17,11 +19,26 @@
 #include "base/version.h"
 #include "replay/unit/option_record.h"
 #include "replay/unit/verify_files.h"
+#include "shell/log.h"
 #include "shell/paths.h"
 
 namespace vandrel {
 
 namespace {
+
+constexpr int lastReplayNumber = std::numeric_limits<int>::max();
+constexpr const char* noNumberLeft = "No number is left for a new replay";
+
+// Whether the file goes on as far as the end of the grid. One that does not was left by a round that never began.
+bool holdsGrid(std::istream& stream) {
+    constexpr std::string_view gridMarker = "ENDGRID";
+    constexpr std::size_t longestStart = 64 * 1024;  // header and grid of the largest arena, and some to spare
+    std::string start(longestStart, '\0');
+    stream.exceptions(std::ios::badbit);
+    stream.read(start.data(), static_cast<std::streamsize>(start.size()));
+    return std::string_view(start).substr(0, static_cast<std::size_t>(stream.gcount())).find(gridMarker) !=
+           std::string_view::npos;
+}
 
 // As `std::stoi` reads: blanks, a sign, digits, and then whatever there is; with texts of our own.
 int parseNumber(const std::string& text) {
@@ -55,6 +72,8 @@ void readHeader(ReplayInfo& info) {
         const auto options = readGameOptions(stream, version);
         if (!options) {
             info.errors.push_back(versionRefusal(version));
+        } else if (!holdsGrid(stream)) {
+            throw std::runtime_error("The replay ends before its round begins");
         } else {
             info.version = version;
             info.gameMode = static_cast<int>(options->gameMode);
@@ -75,7 +94,12 @@ void addReplay(std::vector<ReplayInfo>& replays, const std::filesystem::director
         return;
     }
     ReplayInfo info;
-    info.number = parseNumber(parts.front());
+    try {
+        info.number = parseNumber(parts.front());
+    } catch (const std::exception&) {
+        logText("This replay's name does not begin with a number: " + entry.path().string() + "\n");
+        throw;
+    }
     info.path = entry.path().string();
     info.entry = entry;
     info.size = sizeOf(info.path) + sizeOf(plainVerifyPath(info.path)) + sizeOf(compressedVerifyPath(info.path));
@@ -90,11 +114,18 @@ void addReplay(std::vector<ReplayInfo>& replays, const std::filesystem::director
 std::vector<ReplayInfo> getAllReplays(bool readHeaders) {
     std::vector<ReplayInfo> replays;
     try {
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(replaysDir())) {
+        using std::filesystem::directory_options;
+        for (const auto& entry :
+             std::filesystem::recursive_directory_iterator(replaysDir(), directory_options::skip_permission_denied)) {
+            if (access(entry.path().c_str(), R_OK) != 0) {
+                logText(fmt::format("{} cannot be read and is passed over: {}\n", entry.path().string(),
+                                    std::generic_category().message(errno)));
+            }
             addReplay(replays, entry, readHeaders);
         }
-    } catch (const std::filesystem::filesystem_error&) {
+    } catch (const std::filesystem::filesystem_error& failure) {
         // The list of what could be walked is what there is.
+        logText(fmt::format("The list of replays ends early: {}\n", failure.what()));
     }
     // Times are asked for once: a file that is written meanwhile must not upset the order.
     std::vector<std::tuple<std::filesystem::file_time_type, int, std::size_t>> order;
@@ -112,21 +143,53 @@ std::vector<ReplayInfo> getAllReplays(bool readHeaders) {
     return sorted;
 }
 
-std::string newReplayName() {
-    constexpr int last = std::numeric_limits<int>::max();
+namespace {
+
+int nextReplayNumber() {
     int highest = -1;
     bool lastTaken = false;
     for (const ReplayInfo& info : getAllReplays(false)) {
-        if (info.number == last) {
+        if (info.number == lastReplayNumber) {
             lastTaken = true;
         } else {
             highest = std::max(highest, info.number);
         }
     }
-    if (lastTaken && highest + 1 == last) {
-        throw std::out_of_range("No number is left for a new replay");
+    if (lastTaken && highest + 1 == lastReplayNumber) {
+        throw std::out_of_range(noNumberLeft);
     }
-    return fmt::format("{}/{}.{}.replay", replaysDir(), highest + 1, versionText(replayOutputVersion));
+    return highest + 1;
+}
+
+std::string replayPath(int number) {
+    return fmt::format("{}/{}.{}.replay", replaysDir(), number, versionText(replayOutputVersion));
+}
+
+// Makes an empty file, unless there is one. False only where there is.
+bool isOursToWrite(const std::string& path) {
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (file >= 0) {
+        close(file);
+    }
+    return file >= 0 || errno != EEXIST;
+}
+
+}  // namespace
+
+std::string newReplayName() {
+    return replayPath(nextReplayNumber());
+}
+
+std::string claimReplayName() {
+    for (int number = nextReplayNumber();; ++number) {
+        std::string path = replayPath(number);
+        if (isOursToWrite(path)) {
+            return path;
+        }
+        if (number == lastReplayNumber) {
+            throw std::out_of_range(noNumberLeft);
+        }
+    }
 }
 
 }  // namespace vandrel
