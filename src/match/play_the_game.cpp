@@ -99,7 +99,10 @@ void Match::enter() {
         return;
     }
     replay_.emplace(replayName_);
+    // The clock takes the file's rate. The multiplier stays the file's too: old rounds at a high rate have their own.
+    const int multiplier = gameOptions.frameMultiplier;
     world_.setUpdateRate(gameOptions.updaterate);
+    gameOptions.frameMultiplier = multiplier;
 }
 
 // False when nobody is to play after all.

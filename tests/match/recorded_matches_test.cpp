@@ -143,6 +143,18 @@ TEST_F(RecordedMatchTest, PlaysItsReplayToTheSameEndAtItsOwnRate) {
     EXPECT_EQ(tables.size(), 2U);
 }
 
+// Releases before the multiplier was stored played high rates with 1.
+TEST_F(RecordedMatchTest, KeepsTheMultiplierOfTheFileWhateverItsRate) {
+    gameOptions.frameMultiplier = 1;
+    const std::string replay = recordRound();
+    int multiplier = 0;
+    onUpdate = [&](int /*round*/) { multiplier = gameOptions.frameMultiplier; };
+    EXPECT_FALSE(play(true, replay));
+    EXPECT_EQ(timesLogged("Round over\n"), 1);
+    EXPECT_EQ(multiplier, 1);
+    EXPECT_THAT(rates, ElementsAre(120, 60));
+}
+
 TEST_F(RecordedMatchTest, RequiresThatTheProofIsUsedUpAtTheEndOfAReplay) {
     const std::string replay = recordRound();
     const std::string proof = verifyText(replay);
