@@ -107,6 +107,9 @@ void Match::enter() {
 
 // False when nobody is to play after all.
 bool Match::makePlayers() {
+    if (!isPlayback() && gameOptions.quickStartPlayers > 0) {
+        gameOptions.numPlayers = gameOptions.quickStartPlayers + 1;  // the teams are made for these
+    }
     const bool headerHasTeams = isPlayback() && replay_->version() >= teamsInHeaderFrom;
     if (!headerHasTeams && gameOptions.quickStartPlayers >= 1 && isTeamMode(gameOptions.gameMode)) {
         makeQuickStartTeams();
@@ -114,7 +117,6 @@ bool Match::makePlayers() {
     if (isPlayback()) {
         makeReplayPlayers(replay_->playerSetups(), replay_->version(), world_.devices());
     } else if (gameOptions.quickStartPlayers > 0) {
-        gameOptions.numPlayers = gameOptions.quickStartPlayers + 1;
         makeQuickStartPlayers(world_.devices());
     } else if (!world_.joinPlayers()) {
         return false;

@@ -46,7 +46,7 @@ class MatchPlayersTest : public MatchStage {
     std::vector<int> teamsOf(GameMode mode, int playerCount) {
         gameOptions.gameMode = mode;
         gameOptions.arenaSize = 4;
-        gameOptions.numPlayers = playerCount;
+        gameOptions.numPlayers = 2;  // left over by the match before
         gameOptions.quickStartPlayers = playerCount - 1;
         std::vector<int> found;
         onUpdate = [&](int /*round*/) {
