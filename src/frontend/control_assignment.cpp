@@ -24,8 +24,8 @@ std::string playerLabel(const Player& player) {
 
 // Names the first player who holds the device, if there is one.
 std::string deviceLabel(const std::shared_ptr<Controls>& device) {
-    const auto holder =
-        std::ranges::find_if(players, [&device](const auto& player) { return player->controls == device; });
+    const auto holder = std::ranges::find_if(
+        players, [&device](const auto& player) { return player->controls->isSameDevice(*device); });
     return device->description() + (holder != players.end() ? fmt::format(" - player {}", (*holder)->num) : "");
 }
 

@@ -49,6 +49,10 @@ class Controls {
     virtual std::string buttonText(ControlInput input) const = 0;
 
     virtual std::string debugName() const { return "?"; }
+
+    // Whether both stand for one device. A pad that was pulled and put back is in the list as a new object, beside the
+    // one that its player kept.
+    virtual bool isSameDevice(const Controls& other) const { return this == &other; }
 };
 
 // What the two devices share that nobody presses.

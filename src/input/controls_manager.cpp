@@ -171,8 +171,9 @@ DeviceList ControlsManager::menuDevices(int controlMode, bool includeHeldControl
         if (includeHeldController) {
             const std::vector<DeviceHolder> players = holders();
             const auto held = std::ranges::find_if(devices, [&players](const std::shared_ptr<Controls>& device) {
-                return isController(device) &&
-                       std::ranges::find(players, device, &DeviceHolder::controls) != players.end();
+                return isController(device) && std::ranges::any_of(players, [&device](const DeviceHolder& holder) {
+                           return holder.controls->isSameDevice(*device);
+                       });
             });
             if (held != devices.end()) {
                 admitted.push_back(*held);

@@ -125,6 +125,11 @@ std::string JoystickControls::debugName() const {
     return fmt::format("{} {:x}", description(), reinterpret_cast<std::uintptr_t>(handle_));
 }
 
+bool JoystickControls::isSameDevice(const Controls& other) const {
+    const auto* const joystick = dynamic_cast<const JoystickControls*>(&other);
+    return joystick != nullptr && joystick->handle_ == handle_;
+}
+
 bool JoystickControls::isPressed(ControlInput input) const {
     if (!isConnected()) {
         return false;

@@ -39,6 +39,7 @@ class JoystickControls final : public Controls {
     std::string buttonText(ControlInput input) const override;
 
     std::string debugName() const override;
+    bool isSameDevice(const Controls& other) const override;
 
     JoystickHandle handle() const { return handle_; }
 

@@ -165,6 +165,9 @@ TEST_F(DevicesTest, APadPulledInTheMiddleOfARoundReturnsToItsPlayer) {
               scanLog({"sofa"}) + addedLog(pad) + "0: Player " + std::to_string(player->num) + " regained controls\n");
     ASSERT_EQ(joined(manager.devices), keyboards + "sofa ");
     EXPECT_NE(manager.devices.back(), player->controls) << "the player keeps the old device";
+    const auto returned = manager.devices.back();
+    EXPECT_EQ(manager.menuDevices(MenuControlMode::KeyboardAndController1, true), (DeviceList{returned, returned}))
+        << "as the first controller, and as one that a player holds";
     round.step(10);
     EXPECT_GT(player->x, walked);
 }
