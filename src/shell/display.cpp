@@ -36,9 +36,7 @@ void requestFlagsAndOptions(bool windowed) {
 
 void createDisplay(int width, int height, int adapter) {
     al_set_new_display_adapter(adapter);
-    // The library does not answer for a monitor that is not there: it ends the process.
-    const bool adapterExists = adapter < 0 || adapter < al_get_num_video_adapters();
-    theDisplay = adapterExists ? al_create_display(width, height) : nullptr;
+    theDisplay = al_create_display(width, height);
     forgetTarget();
     if (theDisplay == nullptr) {
         throw std::runtime_error("Failed to create display");
@@ -57,6 +55,10 @@ void resizeDisplay(int width, int height, bool windowed) {
         al_resize_display(theDisplay, width, height);
     }
     al_set_display_flag(theDisplay, ALLEGRO_FULLSCREEN_WINDOW, !windowed);
+    if (windowed) {
+        // X11 refuses another size to a window that is still fullscreen.
+        al_resize_display(theDisplay, width, height);
+    }
     // Without this the back buffer, which is wrapped next, keeps its old size.
     al_acknowledge_resize(theDisplay);
 }
@@ -100,7 +102,8 @@ int desktopHeight = 0;
 bool setVideoMode(int width, int height, bool windowed, int adapter) {
     announceChange(width, height, windowed);
     requestFlagsAndOptions(windowed);
-    if (adapter > al_get_num_video_adapters()) {
+    if (adapter >= al_get_num_video_adapters() && adapter != ALLEGRO_DEFAULT_DISPLAY_ADAPTER) {
+        logText(fmt::format("Adapter {} is not there: the default one is taken\n", adapter));
         adapter = ALLEGRO_DEFAULT_DISPLAY_ADAPTER;
     }
     bool created = true;
