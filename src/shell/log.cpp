@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstdarg>
 #include <cstring>
 #include <mutex>
@@ -17,6 +18,7 @@ std::mutex logMutex;
 std::array<char, logBufferSize> logMessageBuffer;
 std::array<char, logBufferSize> logLineBuffer;
 std::FILE* logFile = nullptr;
+std::atomic<int> logDescriptor = -1;  // for signal handlers, which may not wait for the mutex
 DebugOutput debugOutput = debugOutputToStandardError;
 
 }  // namespace
@@ -76,11 +78,17 @@ void flushLog() {
 void setLogFile(std::FILE* file) {
     const std::lock_guard lock(logMutex);
     logFile = file;
+    logDescriptor = file != nullptr ? fileno(file) : -1;
+}
+
+int logFileDescriptor() {
+    return logDescriptor;
 }
 
 void closeLog() {
     const std::lock_guard lock(logMutex);
     if (logFile != nullptr) {
+        logDescriptor = -1;
         std::fclose(logFile);
         logFile = nullptr;
     }

@@ -30,6 +30,9 @@ void flushLog();
 // The file that lines go to from now on, or null for none. The log owns it until closeLog.
 void setLogFile(std::FILE* file);
 
+// The descriptor of that file, -1 while there is none. Safe in a signal handler.
+int logFileDescriptor();
+
 // Flushes and closes the file, if there is one; lines then reach the debugger output only.
 void closeLog();
 

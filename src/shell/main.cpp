@@ -2,6 +2,7 @@
 #include "frontend/lootbox_room.h"
 #include "frontend/menu.h"
 #include "players/player.h"
+#include "shell/fatal_signals.h"
 #include "shell/guard.h"
 #include "shell/log.h"
 #include "shell/open_log.h"
@@ -12,6 +13,7 @@
 int main(int argc, char** argv) {
     using namespace vandrel;
     openLog();
+    logFatalSignals();
     logText("Log file opened\n");
     // The two objects that are made in numbers.
     logPrintf("Player: %zu, Team: %zu\n", sizeof(Player), sizeof(Team));

@@ -27,6 +27,10 @@ void openLog() {
     if (file == nullptr) {
         showMessageBox("Warning: couldn't create log file");
     }
+    if (file != nullptr) {
+        // Each line reaches the system at once, so a process that dies suddenly loses none.
+        std::setvbuf(file, nullptr, _IOLBF, BUFSIZ);
+    }
     setLogFile(file);
 }
 

@@ -104,7 +104,7 @@ TEST_F(DrawingLayer, ComposedPicturesKeepApart) {
     third = plain(red);
     third.reset();
     EXPECT_EQ(pixelAt(*second, 0, 0), blue);
-    const auto smaller = composePicture(9, 9, [](const BitmapWrapper&) {});
+    const auto smaller = composePicture(9, 20, [](const BitmapWrapper&) {});
     ALLEGRO_BITMAP* const page = al_get_parent_bitmap(smaller->bitmap);
     ASSERT_NE(page, nullptr);
     const ALLEGRO_COLOR border =

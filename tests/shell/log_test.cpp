@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <functional>
 #include <iterator>
 #include <optional>
@@ -14,6 +15,7 @@
 #include <utility>
 
 #include "shell/assertion.h"
+#include "shell/fatal_signals.h"
 #include "shell/frame_counter.h"
 #include "shell/open_log.h"
 #include "shell/paths.h"
@@ -97,6 +99,18 @@ TEST_F(LogTest, ASecondStartEmptiesTheLogAndAClosedLogTakesNothing) {
     logText("late\n");
     EXPECT_EQ(fileText(logPath()), "0: new\n");
     EXPECT_EQ(captured.text(), "0: old\n0: new\n0: late\n");
+}
+
+TEST_F(LogTest, ADeathBySignalLeavesTheLastLinesAndItsCause) {
+    const auto die = [] {
+        openLog();
+        std::signal(SIGFPE, SIG_DFL);  // not a sanitizer's own report
+        logFatalSignals();
+        logText("the last line\n");
+        std::raise(SIGFPE);
+    };
+    EXPECT_EXIT(die(), testing::KilledBySignal(SIGFPE), "");
+    EXPECT_EQ(fileText(logPath()), "0: the last line\nThe process is ended by SIGFPE\n");
 }
 
 TEST_F(LogTest, AFailedAssertionIsFlushedAndThrown) {
