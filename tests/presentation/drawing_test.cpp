@@ -101,8 +101,8 @@ TEST_F(DrawingLayer, ComposedPicturesKeepApart) {
     first.reset();
     auto third = composePicture(20, 20, [](const BitmapWrapper&) {});
     EXPECT_TRUE(isTransparentAt(*third, 10, 10)) << "nothing is left of what lay there";
-    third = plain(red);
     third.reset();
+    plain(red).reset();
     EXPECT_EQ(pixelAt(*second, 0, 0), blue);
     const auto smaller = composePicture(9, 20, [](const BitmapWrapper&) {});
     ALLEGRO_BITMAP* const page = al_get_parent_bitmap(smaller->bitmap);
