@@ -64,6 +64,9 @@ TEST_F(StateDigests, ShowEachChangeInItsGroup) {
         {"powerups", [&] { bonusGrid.at(7, 8) = Bonus::Range; }},
         {"bombs", [&] { ++bombGrid.edit(5, 5).fuse; }},
         {"bombs", [&] { bombGrid.edit(5, 5).owner = snake_; }},
+        {"", [&] { bombGrid.edit(5, 5).direction = Facing::Left; }},  // of the last rocket on the square
+        {"bombs", [&] { bombGrid.edit(5, 5).kind = BombKind::Rocket; }},
+        {"bombs", [&] { bombGrid.edit(5, 5).direction = Facing::Up; }},
         {"flames", [&] { ++game_.explosions.front().timer; }},
         {"flags and teams", [&] { game_.flags.front().carrier = walker_; }},
         {"flags and teams", [&] { ++teams.front().score; }},
@@ -164,6 +167,11 @@ TEST_F(DigestFiles, AreWrittenOnceAndHold) {
     const std::string fields = run({"digest", "--fields", "--at", "45", path_}).text;
     EXPECT_THAT(fields, HasSubstr("\nplayers: player 1 0 cash = 0\n"));
     EXPECT_THAT(run({"digest", "--fields", "--at", "99999", path_}).text, HasSubstr("updates"));
+
+    std::filesystem::remove(digestPath(path_));
+    writeFile(path_, readFile(path_) + "w");
+    EXPECT_THAT(run({"digest", path_}).text, HasSubstr("1 bytes of the replay are left over"));
+    EXPECT_FALSE(std::filesystem::exists(digestPath(path_)));
 }
 
 TEST_F(DigestFiles, FailWhereTheyDoNotFitTheRound) {

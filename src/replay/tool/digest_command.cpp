@@ -2,13 +2,13 @@
 #include <fmt/format.h>
 
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <vector>
 
 #include "replay/tool/commands.h"
 #include "replay/tool/headless_playback.h"
 #include "replay/tool/state_digest.h"
+#include "shell/replace_file.h"
 #include "shell/switches.h"
 
 namespace vandrel {
@@ -74,12 +74,9 @@ void writeDigest(const std::string& path) {
     if (playback.end() == PlaybackEnd::CutShort) {
         throw std::runtime_error("the replay breaks off without its end mark");
     }
-    std::ofstream file(target, std::ios::binary);
-    file << packDigest(digest);
-    file.close();
-    if (!file) {
-        throw std::runtime_error(fmt::format("{} cannot be written", target));
-    }
+    playback.requireAllPlayed();
+    playback.finish();
+    replaceFile(target, packDigest(digest));
     fmt::print("{}: {} updates\n", printable(target), digest.updates.size());
 }
 

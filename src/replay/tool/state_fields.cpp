@@ -139,13 +139,19 @@ constexpr Field<Square> powerupFields[]{
 };
 constexpr auto powerupKind = kindOf(StateGroup::Powerups, "square", powerupFields);
 
+// What only a flying rocket has. In other bombs it is left over from the last rocket on the square and means nothing.
+template <auto Member>
+std::int64_t ofRocket(const Bomb& bomb) {
+    return bomb.kind == BombKind::Rocket ? value<Member>(bomb) : 0;
+}
+
 constexpr Field<Bomb> bombFields[]{
     {"owner", [](const Bomb& bomb) -> std::int64_t { return numberOf(bomb.owner); }},
     {"fuse", value<&Bomb::fuse>},
     {"kind", value<&Bomb::kind>},
-    {"rocket step", value<&Bomb::rocketStep>},
-    {"direction", value<&Bomb::direction>},
-    {"moved this frame", value<&Bomb::movedThisFrame>},
+    {"rocket step", ofRocket<&Bomb::rocketStep>},
+    {"direction", ofRocket<&Bomb::direction>},
+    {"moved this frame", ofRocket<&Bomb::movedThisFrame>},
 };
 constexpr auto bombKind = kindOf(StateGroup::Bombs, "bomb", bombFields);
 
