@@ -221,6 +221,10 @@ class VirtualScreen:
         x11.XSendEvent(display, ctypes.c_ulong(window), 0, ctypes.c_long(0), event.ljust(192, b"\0"))
         x11.XCloseDisplay(display)
 
+    def resize_window(self, title, width, height):
+        """Gives the window of that title another size, as a tiling window manager does."""
+        self._xdotool("windowsize", str(self._window("--name", f"^{title}$")), str(width), str(height))
+
     @contextlib.contextmanager
     def other_window(self):
         """Another window, in the corner, that has the keys as long as the context lasts. They go back to the one under

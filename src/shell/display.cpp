@@ -129,4 +129,12 @@ bool setVideoMode(int width, int height, bool windowed, int adapter) {
     return true;
 }
 
+void acknowledgeResize() {
+    if (theDisplay == nullptr || !al_acknowledge_resize(theDisplay)) {
+        return;
+    }
+    followDisplay(al_get_backbuffer(theDisplay));
+    logPrintf("Display resized to %dx%d\n", al_get_display_width(theDisplay), al_get_display_height(theDisplay));
+}
+
 }  // namespace vandrel

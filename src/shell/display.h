@@ -16,9 +16,13 @@ extern ALLEGRO_TIMER* frameTimer;
 extern int desktopWidth;
 extern int desktopHeight;
 
-// Creates the display or changes it. `adapter` is a monitor, -1 for the default; another one than before means a new
-// display, with new shaders and fonts. In a fullscreen window the monitor gives the size. Always true. Throws
-// std::runtime_error "Failed to create display".
+// Creates the display or changes it. `adapter` is a monitor, -1 for the default, which also stands in for one that is
+// not there; another one than before means a new display, with new shaders and fonts. In a fullscreen window the
+// monitor gives the size. Always true. Throws std::runtime_error "Failed to create display".
 bool setVideoMode(int width, int height, bool windowed, int adapter);
+
+// Takes the size that somebody else, such as a window manager, has given the display, and fits the picture into it.
+// Logs the size. Nothing happens without a display.
+void acknowledgeResize();
 
 }  // namespace vandrel

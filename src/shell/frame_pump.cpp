@@ -69,6 +69,9 @@ void takeEvents(const std::function<void()>& onControllersChanged, const std::fu
                     onCloseButton();
                 }
                 break;
+            case ALLEGRO_EVENT_DISPLAY_RESIZE:
+                acknowledgeResize();
+                break;
             case ALLEGRO_EVENT_DISPLAY_SWITCH_OUT:
                 letGoOfKeys();
                 break;

@@ -17,8 +17,8 @@ void framePump(std::function<void()> update, std::function<void()> render, std::
 
 // Empties the event queue, for the pump and for the match: counts ticks, brings the device list in step when
 // controllers come or go and then calls `onControllersChanged`, calls `onCloseButton` for the window's close button,
-// and lets go of all keys when another window gets them. Either callback may be empty. All other events are dropped:
-// keys are read directly.
+// fits the picture into a window whose size somebody else has changed, and lets go of all keys when another window gets
+// them. Either callback may be empty. All other events are dropped: keys are read directly.
 void takeEvents(const std::function<void()>& onControllersChanged, const std::function<void()>& onCloseButton);
 
 }  // namespace vandrel

@@ -41,6 +41,17 @@ void renewGameScreen() {
     screen = std::make_shared<BitmapWrapper>(width, height, preserve, shrinksSmoothly);
 }
 
+void followDisplay(ALLEGRO_BITMAP* backBuffer) {
+    constexpr bool owned = false;
+    displayBitmap = std::make_shared<BitmapWrapper>(backBuffer, owned);
+    const std::shared_ptr<BitmapWrapper> before = screen;
+    renewGameScreen();
+    if (before != nullptr) {
+        clearToBlack(*screen);
+        drawWrapper(*before, *screen, 0, 0);  // a pause may want to show it before the next frame is drawn
+    }
+}
+
 void presentFrame() {
     const int width = displayBitmap->width();
     const int height = displayBitmap->height();

@@ -32,6 +32,9 @@ void setGameScreenSize(int width, int height);
 // of the old one; the pixels are undefined.
 void renewGameScreen();
 
+// Takes `backBuffer`, the display's after its size has changed, and fits the picture into it. The picture stays.
+void followDisplay(ALLEGRO_BITMAP* backBuffer);
+
 // Shows the game bitmap.
 void presentFrame();
 
