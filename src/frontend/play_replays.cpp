@@ -22,7 +22,7 @@ void testAllReplays(std::shared_ptr<Music>& music, const ReplayPlayer& play) {
     theProfiler.start("testAllReplays");
     for (const ReplayInfo& info : getAllReplays(true)) {
         if (!info.errors.empty()) {
-            logText(fmt::format("Test all replays: {} is passed by: {}\n", info.path, info.errors.front()));
+            logText(fmt::format("{} cannot be played and is passed by: {}\n", info.path, info.errors.front()));
             continue;
         }
         if (play(info.path, {.fastForward = true, .skipRoundEnd = true}, music)) {

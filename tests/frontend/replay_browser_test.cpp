@@ -196,7 +196,9 @@ TEST_F(ReplayBrowser, TestsAllThatCanBePlayedUntilOneIsQuit) {
     const testing::Matcher<std::string> saysHowLong =
         testing::ContainsRegex(": Test all replays: [0-9]+\\.[0-9]{6} seconds\n");
     EXPECT_THAT(log_.text(), saysHowLong);
-    EXPECT_THAT(log_.text(), HasSubstr("5.1.1.2.replay is passed by: The replay ends before its round begins\n"));
+    EXPECT_THAT(
+        log_.text(),
+        HasSubstr("5.1.1.2.replay cannot be played and is passed by: The replay ends before its round begins\n"));
     played_.clear();
     quitAt_ = 2;
     const test::CapturedLog logOfTheSecond;
