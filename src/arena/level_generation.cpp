@@ -145,14 +145,14 @@ void setUpRound(Square gridSize, const PackagedReplayData& replayData, Game& gam
         placeHill(game);
     }
     if (replayData.playback) {
-        readRound(replayData, game);
+        readRoundRecords(replayData, game);
         readGrid(replayData);
         takeStartsFromPositions();
         return;
     }
     placePlayers();
     if (replayData.writes()) {
-        writeRound(replayData, game);
+        writeRoundRecords(replayData, game);
         writeGrid(replayData);
     }
 }

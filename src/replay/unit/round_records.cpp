@@ -36,7 +36,7 @@ void readSquare(std::istream* input, int x, int y) {
 
 }  // namespace
 
-void writeRound(const PackagedReplayData& replayData, const Game& game) {
+void writeRoundRecords(const PackagedReplayData& replayData, const Game& game) {
     std::ostream* output = replayData.output;
     writeInt(output, gameOptions.timeBeforeShrinkingFrames.value());
     writeBool(output, game.shrinkAllowed);
@@ -46,7 +46,7 @@ void writeRound(const PackagedReplayData& replayData, const Game& game) {
     writeInt(output, game.hillBottom);
 }
 
-void readRound(const PackagedReplayData& replayData, Game& game) {
+void readRoundRecords(const PackagedReplayData& replayData, Game& game) {
     std::istream* input = replayData.input;
     if (!replayData.isOlderThan(roundSectionFrom)) {
         gameOptions.timeBeforeShrinkingFrames = checkedFrames("timeBeforeShrinkingFrames", readInt(input));

@@ -8,8 +8,8 @@ namespace vandrel {
 class Game;
 
 // Time before the walls close, whether they may, and the hill. The time goes to `gameOptions`, the rest to `game`.
-void writeRound(const PackagedReplayData& replayData, const Game& game);
-void readRound(const PackagedReplayData& replayData, Game& game);
+void writeRoundRecords(const PackagedReplayData& replayData, const Game& game);
+void readRoundRecords(const PackagedReplayData& replayData, Game& game);
 
 // Kind and powerup of every square, and the pixel position of every player, each with its marker behind it. Reading
 // fills the layers, which have their size already, and moves the players; it throws std::runtime_error for a wrong
