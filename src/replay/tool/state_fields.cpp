@@ -58,7 +58,7 @@ int numberOf(const std::weak_ptr<Player>& player) {
 
 // The next output tells the place in a sequence whose seed is known.
 std::int64_t nextOutput(std::mt19937 copy) {
-    return copy();
+    return static_cast<std::int64_t>(copy());
 }
 
 // What is left out, because only pictures, sounds or the match read it: the walk frames, trail, particles, look and
